@@ -1,0 +1,192 @@
+#pragma once
+
+// What lies behind the drawing handles. Private to the gdi layer: it includes Cairo and Pango.
+// Everything here runs on the user-interface thread only; the handle tables are not locked.
+
+#include "platform/gdi/DC.h"
+
+#include <cairo.h>
+#include <pango/pangocairo.h>
+
+#include <memory>
+#include <vector>
+
+class Surface;
+
+namespace gdi {
+
+enum class Kind { Pen, Brush, Font, Bitmap, Region };
+
+// A pen, brush, font, bitmap or region. Its handle is its address. One reference belongs to the
+// handle until DeleteObject; each context (and saved context state) that selects it holds one
+// more, so that an object deleted while selected stays valid until it is let go.
+struct Object {
+    explicit Object(Kind k) : kind(k) {}
+    virtual ~Object();
+    Object(const Object&) = delete;
+    Object& operator=(const Object&) = delete;
+
+    Kind kind;
+    int references = 1;
+    bool stock = false;
+    bool deleted = false;
+    CGdiObject* permanent = nullptr;       // the C++ object attached to the handle
+    std::unique_ptr<CGdiObject> temporary; // made by FromHandle, owned here
+};
+
+struct PenObject : Object {
+    PenObject() : Object(Kind::Pen) {}
+    LOGPEN log{};
+};
+
+struct BitmapObject;
+
+struct BrushObject : Object {
+    BrushObject() : Object(Kind::Brush) {}
+    LOGBRUSH log{};
+    cairo_surface_t* pattern = nullptr; // the pattern's pixels, for pattern brushes
+    bool monochromePattern = false;
+    ~BrushObject() override;
+};
+
+struct FontObject : Object {
+    FontObject() : Object(Kind::Font) {}
+    ~FontObject() override;
+    LOGFONT log{};
+    PangoFontDescription* description = nullptr;
+    bool metricsKnown = false;
+    TEXTMETRIC metrics{};
+    int baseline = 0; // of a layout line, from its top, in pixels
+};
+
+struct BitmapObject : Object {
+    BitmapObject() : Object(Kind::Bitmap) {}
+    ~BitmapObject() override;
+    std::unique_ptr<Surface> pixels;
+    int bitsPerPixel = 32;
+};
+
+struct RegionObject : Object {
+    RegionObject() : Object(Kind::Region) {}
+    ~RegionObject() override;
+    cairo_region_t* region = nullptr;
+};
+
+// A counted hold on an object.
+class Ref {
+public:
+    Ref() = default;
+    explicit Ref(Object* o);
+    Ref(const Ref& other) : Ref(other.m_object) {}
+    Ref& operator=(const Ref& other);
+    ~Ref();
+    Object* get() const { return m_object; }
+    template <class T> T* as() const { return static_cast<T*>(m_object); }
+
+private:
+    Object* m_object = nullptr;
+};
+
+void Register(Object* object);
+void Release(Object* object); // drops one reference, freeing at zero
+Object* Lookup(AnyGdiHandle handle);
+template <class T> T* Lookup(AnyGdiHandle handle, Kind kind) {
+    Object* o = Lookup(handle);
+    return o != nullptr && o->kind == kind ? static_cast<T*>(o) : nullptr;
+}
+inline HGDIOBJ Handle(Object* object) {
+    return reinterpret_cast<HGDIOBJ>(object);
+}
+Object* StockObject(int index);
+BitmapObject* NewBitmap(int width, int height, int bitsPerPixel);
+
+// What SaveDC keeps and RestoreDC brings back.
+struct DcAttributes {
+    Ref pen, brush, font, bitmap;
+    COLORREF bkColor = RGB(255, 255, 255);
+    COLORREF textColor = RGB(0, 0, 0);
+    int bkMode = OPAQUE;
+    int rop2 = R2_COPYPEN;
+    UINT textAlign = TA_LEFT | TA_TOP;
+    POINT windowOrg{0, 0};
+    POINT viewportOrg{0, 0};
+    POINT position{0, 0};
+    POINT brushOrg{0, 0};
+    cairo_region_t* clip = nullptr; // extra clipping in surface coordinates; null for none
+
+    DcAttributes() = default;
+    DcAttributes(const DcAttributes& other);
+    DcAttributes& operator=(const DcAttributes& other);
+    ~DcAttributes();
+};
+
+struct DcState {
+    ~DcState();
+
+    Surface* window = nullptr; // the surface of a window context; null for a memory context
+    POINT origin{0, 0};        // the device origin on the surface
+    RECT windowClip{0, 0, 0, 0};
+    DcAttributes attributes;
+    std::vector<DcAttributes> saved;
+    CDC* permanent = nullptr;
+    std::unique_ptr<CDC> temporary;
+
+    // The cairo context on the current surface, with the effective clip applied.
+    cairo_t* cr = nullptr;
+    void* crTarget = nullptr;
+    bool crClipValid = false;
+
+    Surface* target() const;
+    cairo_t* Cairo(); // recreated when the surface changes
+    void ClipChanged() { crClipValid = false; }
+    // The effective clip in surface coordinates: the window's part, the surface, the extra clip.
+    cairo_region_t* EffectiveClip() const; // caller destroys
+    POINT ToSurface(int x, int y) const {
+        return {x - attributes.windowOrg.x + attributes.viewportOrg.x + origin.x,
+                y - attributes.windowOrg.y + attributes.viewportOrg.y + origin.y};
+    }
+    RECT ToSurface(const RECT& r) const;
+    POINT FromSurface(int x, int y) const {
+        return {x + attributes.windowOrg.x - attributes.viewportOrg.x - origin.x,
+                y + attributes.windowOrg.y - attributes.viewportOrg.y - origin.y};
+    }
+};
+
+DcState* LookupDC(HDC dc);
+inline HDC Handle(DcState* dc) {
+    return reinterpret_cast<HDC>(dc);
+}
+
+// Pixels: 0xFFRRGGBB on opaque surfaces.
+inline std::uint32_t ToPixel(COLORREF c) {
+    return 0xFF000000u | (std::uint32_t(GetRValue(c)) << 16) | (std::uint32_t(GetGValue(c)) << 8) |
+           GetBValue(c);
+}
+inline COLORREF FromPixel(std::uint32_t p) {
+    return RGB(BYTE((p >> 16) & 0xFF), BYTE((p >> 8) & 0xFF), BYTE(p & 0xFF));
+}
+inline void SetSource(cairo_t* cr, COLORREF c) {
+    cairo_set_source_rgb(cr, GetRValue(c) / 255.0, GetGValue(c) / 255.0, GetBValue(c) / 255.0);
+}
+
+// Raster operations on the pixels of a surface rectangle, clipped to `clip` (surface
+// coordinates). `pattern(x, y)` gives the brush pixel, `source(x, y)` the source pixel.
+using PixelAt = std::uint32_t (*)(const void* context, int x, int y);
+void ApplyRop3(cairo_surface_t* surface, const cairo_region_t* clip, const RECT& area,
+               std::uint8_t rop, PixelAt pattern, const void* patternContext, PixelAt source,
+               const void* sourceContext);
+// Applies a binary pen operation wherever `mask` (A8, placed at maskX, maskY) is set.
+void ApplyRop2Mask(cairo_surface_t* surface, const cairo_region_t* clip, cairo_surface_t* mask,
+                   int maskX, int maskY, std::uint32_t penPixel, int rop2);
+// The cairo source for a brush on a context, aligned to the brush origin; null for a hollow
+// brush. The caller destroys it.
+cairo_pattern_t* BrushPattern(DcState* dc, BrushObject* brush);
+// The brush's pixel at a surface point, for raster operations.
+std::uint32_t BrushPixel(DcState* dc, BrushObject* brush, int x, int y);
+
+// Text.
+FontObject* CurrentFont(DcState* dc);
+const TEXTMETRIC& Metrics(FontObject* font);
+PangoLayout* SharedLayout();
+
+} // namespace gdi
