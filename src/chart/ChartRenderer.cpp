@@ -1,0 +1,347 @@
+#include "chart/ChartRenderer.h"
+
+#include "chart/ChartFit.h"
+#include "chart/ChartPropertyIds.h"
+#include "platform/gdi/canvas/Canvas.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace chartprop;
+
+namespace {
+
+constexpr COLORREF kText = RGB(0x20, 0x20, 0x20);
+constexpr COLORREF kAxis = RGB(0x40, 0x40, 0x40);
+constexpr COLORREF kGrid = RGB(0xE3, 0xE3, 0xE3);
+constexpr COLORREF kFrame = RGB(0xB0, 0xB0, 0xB0);
+
+enum Symbol { None = 0, Dot, Circle, FilledSquare, Square, FilledTriangle, Triangle, Plus, Cross };
+
+std::vector<double> DashesOf(int lineType) {
+    switch (lineType) {
+    case 1:
+        return {6, 4};
+    case 2:
+        return {1.5, 3};
+    case 3:
+        return {7, 3, 1.5, 3};
+    default:
+        return {};
+    }
+}
+
+void DrawSymbol(Canvas& canvas, int symbol, double x, double y, COLORREF colour) {
+    const double r = 3.2;
+    switch (symbol) {
+    case Dot:
+        canvas.FillCircle(x, y, r, colour);
+        break;
+    case Circle:
+        canvas.FillCircle(x, y, r, RGB(255, 255, 255));
+        canvas.StrokeCircle(x, y, r, colour, 1.3);
+        break;
+    case FilledSquare:
+        canvas.FillRect(x - r, y - r, 2 * r, 2 * r, colour);
+        break;
+    case Square:
+        canvas.FillRect(x - r, y - r, 2 * r, 2 * r, RGB(255, 255, 255));
+        canvas.StrokeRect(x - r, y - r, 2 * r, 2 * r, colour, 1.3);
+        break;
+    case FilledTriangle:
+    case Triangle: {
+        const double xy[] = {x,           y - r * 1.2, x + r * 1.1, y + r * 0.8,
+                             x - r * 1.1, y + r * 0.8, x,           y - r * 1.2};
+        if (symbol == FilledTriangle)
+            canvas.FillPolygon(xy, 3, colour);
+        else
+            canvas.Polyline(xy, 4, colour, 1.3);
+        break;
+    }
+    case Plus:
+        canvas.Line(x - r, y, x + r, y, colour, 1.5);
+        canvas.Line(x, y - r, x, y + r, colour, 1.5);
+        break;
+    case Cross:
+        canvas.Line(x - r, y - r, x + r, y + r, colour, 1.5);
+        canvas.Line(x - r, y + r, x + r, y - r, colour, 1.5);
+        break;
+    default:
+        break;
+    }
+}
+
+// Strokes one curve, broken at missing values. Where more points than pixel columns fall on a
+// monotonic X, each column keeps only its first, lowest, highest and last point: the picture
+// is the same and the path stays short.
+void DrawCurveLine(Canvas& canvas, const ChartFrame& f, const ChartSeries& series, int s,
+                   COLORREF colour, double width, const std::vector<double>& dashes) {
+    bool monotonic = true;
+    for (int p = 1; p < series.points && monotonic; ++p)
+        monotonic = series.X(s, p) >= series.X(s, p - 1);
+    const bool decimate = monotonic && series.points > 2 * f.plot.Width();
+    std::vector<double> path;
+    const auto flush = [&] {
+        if (path.size() >= 4)
+            canvas.Polyline(path.data(), path.size() / 2, colour, width, dashes);
+        path.clear();
+    };
+    const auto add = [&](double px, double py) {
+        path.push_back(px);
+        path.push_back(py);
+    };
+    long column = 0;
+    bool open = false;
+    double firstY = 0, lastY = 0, lowY = 0, highY = 0, columnX = 0;
+    int lowAt = 0, highAt = 0;
+    const auto closeColumn = [&] {
+        if (!open)
+            return;
+        if (lowAt <= highAt) {
+            add(columnX, lowY);
+            add(columnX, highY);
+        } else {
+            add(columnX, highY);
+            add(columnX, lowY);
+        }
+        add(columnX, lastY);
+        open = false;
+    };
+    for (int p = 0; p < series.points; ++p) {
+        const double y = series.Y(s, p);
+        const double x = series.X(s, p);
+        if (IsMissing(y) || IsMissing(x) || !std::isfinite(x) || !std::isfinite(y)) {
+            closeColumn();
+            flush();
+            continue;
+        }
+        const double px = f.XToPixel(x);
+        const double py = std::clamp(f.YToPixel(y), -1e5, 1e5);
+        if (!decimate) {
+            add(std::clamp(px, -1e5, 1e5), py);
+            continue;
+        }
+        const long c = long(std::floor(px));
+        if (!open || c != column) {
+            closeColumn();
+            column = c;
+            columnX = px;
+            add(px, py);
+            firstY = lowY = highY = lastY = py;
+            lowAt = highAt = p;
+            open = true;
+            continue;
+        }
+        lastY = py;
+        if (py < lowY)
+            lowY = py, lowAt = p;
+        if (py > highY)
+            highY = py, highAt = p;
+    }
+    (void)firstY;
+    closeColumn();
+    flush();
+}
+
+void DrawBars(Canvas& canvas, const ChartFrame& f, const ChartProperties& p,
+              const ChartSeries& series) {
+    const double category = f.plot.Width() / std::max(1, series.points);
+    const double group = category * 0.78;
+    const double bar = group / std::max(1, series.curves);
+    const double zero = f.YToPixel(std::clamp(0.0, f.yMin, f.yMax));
+    for (int s = 0; s < series.curves; ++s) {
+        const COLORREF colour = COLORREF(CurveColour(p, s));
+        for (int pt = 0; pt < series.points; ++pt) {
+            const double y = series.Y(s, pt);
+            if (IsMissing(y))
+                continue;
+            const double left = f.XToPixel(pt) - group / 2 + s * bar;
+            const double top = std::min(zero, f.YToPixel(y));
+            const double height = std::fabs(f.YToPixel(y) - zero);
+            canvas.FillRect(left + 0.5, top, std::max(1.0, bar - 1), height, colour);
+        }
+    }
+}
+
+void DrawFit(Canvas& canvas, const ChartFrame& f, const ChartProperties& p,
+             const ChartSeries& series, int s, COLORREF colour) {
+    const auto& all = p.Doubles(FitCoefficients);
+    if (all.size() < size_t(s) * 10 + 10)
+        return;
+    std::vector<double> coefficients(all.begin() + s * 10, all.begin() + s * 10 + 10);
+    double low = 0, high = 0;
+    bool any = false;
+    for (int pt = 0; pt < series.points; ++pt) {
+        if (IsMissing(series.Y(s, pt)) || IsMissing(series.X(s, pt)))
+            continue;
+        const double x = series.X(s, pt);
+        low = any ? std::min(low, x) : x;
+        high = any ? std::max(high, x) : x;
+        any = true;
+    }
+    if (!any || !(high > low))
+        return;
+    std::vector<double> path;
+    for (int i = 0; i <= 200; ++i) {
+        const double x = low + (high - low) * i / 200;
+        path.push_back(f.XToPixel(x));
+        path.push_back(std::clamp(f.YToPixel(EvaluatePolynomial(coefficients, x - series.xOffset)),
+                                  -1e5, 1e5));
+    }
+    canvas.Polyline(path.data(), path.size() / 2, colour, 1.8);
+}
+
+void DrawCurves(Canvas& canvas, const ChartFrame& f, const ChartProperties& p) {
+    const ChartSeries series = SeriesOf(p);
+    if (series.curves == 0)
+        return;
+    const int method = p.Int(PlottingMethod, MethodByCurve);
+    if (method == MethodBar) {
+        DrawBars(canvas, f, p, series);
+        return;
+    }
+    const bool lines =
+        method == MethodLine || method == MethodPointsAndLines || method == MethodByCurve;
+    const bool points = method != MethodLine;
+    for (int s = 0; s < series.curves; ++s) {
+        const COLORREF colour = COLORREF(CurveColour(p, s));
+        const int lineType = p.IntElement(CurveLineTypes, size_t(s), 0);
+        if (lines && lineType != 5)
+            DrawCurveLine(canvas, f, series, s, colour, lineType == 4 ? 3.0 : 1.6,
+                          DashesOf(lineType));
+        if (method == MethodBestFitLine || method == MethodBestFitCurve)
+            DrawFit(canvas, f, p, series, s, colour);
+        int symbol = p.IntElement(CurveSymbols, size_t(s), -1);
+        if (symbol < 0)
+            symbol = method == MethodByCurve ? (series.points <= 40 ? Dot : None)
+                     : points                ? Dot
+                                             : None;
+        if (symbol == None || !points || series.points > 20000)
+            continue;
+        for (int pt = 0; pt < series.points; ++pt) {
+            const double x = series.X(s, pt), y = series.Y(s, pt);
+            if (!IsMissing(x) && !IsMissing(y))
+                DrawSymbol(canvas, symbol, f.XToPixel(x), f.YToPixel(y), colour);
+        }
+    }
+    const int selected = p.Int(SelectedPoint, -1);
+    if (selected >= 0 && selected < series.points)
+        for (int s = 0; s < series.curves; ++s)
+            if (!IsMissing(series.Y(s, selected)))
+                canvas.StrokeCircle(f.XToPixel(series.X(s, selected)),
+                                    f.YToPixel(series.Y(s, selected)), 6, kAxis, 1.5);
+}
+
+void DrawRubberLine(Canvas& canvas, const ChartFrame& f, const ChartProperties& p) {
+    const auto& xs = p.Doubles(RubberX);
+    const auto& ys = p.Doubles(RubberY);
+    if (p.Int(RubberLine, 0) != 1 || xs.size() < 2 || ys.size() < 2)
+        return;
+    const COLORREF colour = COLORREF(p.IntElement(AnnotationColours, 0, 0)) & 0xFFFFFF;
+    canvas.Line(f.XToPixel(xs[0]), f.YToPixel(ys[0]), f.XToPixel(xs[1]), f.YToPixel(ys[1]), colour,
+                1.2, {5, 3});
+    canvas.StrokeCircle(f.XToPixel(xs[0]), f.YToPixel(ys[0]), 3, colour, 1.2);
+}
+
+void DrawAxes(Canvas& canvas, const ChartFrame& f, const ChartProperties& p) {
+    const CanvasFont tickFont = ChartFont(p, 9);
+    const ChartBox& a = f.plot;
+    for (const AxisTick& tick : f.yTicks) {
+        const double y = std::round(f.YToPixel(tick.value)) + 0.5;
+        if (p.Int(YGrid, 1) != 0 && y > a.top + 1 && y < a.bottom - 1)
+            canvas.Line(a.left, y, a.right, y, kGrid, 1);
+        canvas.Line(a.left - 5, y, a.left, y, kAxis, 1);
+        canvas.DrawText(tickFont, tick.label.c_str(), a.left - 8, y, kText, CanvasAlign::End,
+                        CanvasAlign::Centre);
+    }
+    for (const AxisTick& tick : f.xTicks) {
+        const double x = std::round(f.XToPixel(tick.value)) + 0.5;
+        if (p.Int(XGrid, 1) != 0 && !f.bars && x > a.left + 1 && x < a.right - 1)
+            canvas.Line(x, a.top, x, a.bottom, kGrid, 1);
+        canvas.Line(x, a.bottom, x, a.bottom + 5, kAxis, 1);
+        // Each line of a label is centred on its own.
+        double y = a.bottom + 8;
+        std::string::size_type start = 0;
+        while (start <= tick.label.size()) {
+            const auto end = tick.label.find('\n', start);
+            const std::string line = tick.label.substr(start, end - start);
+            canvas.DrawText(tickFont, line.c_str(), x, y, kText, CanvasAlign::Centre);
+            y += canvas.MeasureText(tickFont, "0").height;
+            if (end == std::string::npos)
+                break;
+            start = end + 1;
+        }
+    }
+    canvas.StrokeRect(a.left, a.top, a.Width(), a.Height(), kFrame, 1);
+    canvas.Line(a.left, a.bottom, a.right, a.bottom, kAxis, 1);
+    canvas.Line(a.left, a.top, a.left, a.bottom, kAxis, 1);
+    if (f.yMin < 0 && f.yMax > 0)
+        canvas.Line(a.left, std::round(f.YToPixel(0)) + 0.5, a.right,
+                    std::round(f.YToPixel(0)) + 0.5, RGB(0x90, 0x90, 0x90), 1);
+}
+
+void DrawTitles(Canvas& canvas, const ChartFrame& f, const ChartProperties& p) {
+    if (!p.Text(MainTitle).empty())
+        canvas.DrawText(ChartFont(p, 13, true), p.Text(MainTitle).c_str(), f.title.left,
+                        f.title.top, kText);
+    if (!p.Text(SubTitle).empty())
+        canvas.DrawText(ChartFont(p, 10), p.Text(SubTitle).c_str(), f.subtitle.left, f.subtitle.top,
+                        RGB(0x50, 0x50, 0x50));
+    if (!p.Text(XAxisTitle).empty())
+        canvas.DrawText(ChartFont(p, 10, true), p.Text(XAxisTitle).c_str(), f.xTitle.left,
+                        f.xTitle.top, kText);
+    if (!p.Text(YAxisTitle).empty())
+        canvas.DrawText(ChartFont(p, 10, true), p.Text(YAxisTitle).c_str(), f.yTitle.left,
+                        f.yTitle.bottom, kText, CanvasAlign::Start, CanvasAlign::Start, 90);
+}
+
+void DrawLegend(Canvas& canvas, const ChartFrame& f, const ChartProperties& p) {
+    if (f.legendEntries.empty())
+        return;
+    const CanvasFont font = ChartFont(p, 9);
+    canvas.FillRect(f.legend.left, f.legend.top, f.legend.Width(), f.legend.Height(),
+                    RGB(255, 255, 255));
+    if (f.legendVertical)
+        canvas.StrokeRect(std::round(f.legend.left) + 0.5, std::round(f.legend.top) + 0.5,
+                          std::round(f.legend.Width()), std::round(f.legend.Height()), kFrame, 1);
+    double y = f.legend.top + 4;
+    double previousX = -1;
+    const bool bars = p.Int(PlottingMethod, MethodByCurve) == MethodBar;
+    for (size_t i = 0; i < f.legendEntries.size(); ++i) {
+        const LegendEntry& entry = f.legendEntries[i];
+        double x = f.legend.left + 6;
+        if (!f.legendVertical) {
+            x = i < f.legendColumnX.size() ? f.legendColumnX[i] : x;
+            if (i > 0 && x <= previousX)
+                y += f.legendRowHeight;
+            previousX = x;
+        }
+        const double cy = y + f.legendRowHeight / 2 - 2;
+        const COLORREF colour = COLORREF(entry.colour);
+        if (bars) {
+            canvas.FillRect(x + 6, cy - 5, 14, 10, colour);
+        } else {
+            if (entry.lineType != 5)
+                canvas.Line(x, cy, x + 26, cy, colour, entry.lineType == 4 ? 3 : 1.6,
+                            DashesOf(entry.lineType));
+            DrawSymbol(canvas, entry.symbol < 0 ? 0 : entry.symbol, x + 13, cy, colour);
+        }
+        canvas.DrawText(font, entry.text.c_str(), x + 32, cy, kText, CanvasAlign::Start,
+                        CanvasAlign::Centre);
+        if (f.legendVertical)
+            y += f.legendRowHeight;
+    }
+}
+
+} // namespace
+
+void DrawChart(Canvas& canvas, const ChartProperties& p, const ChartFrame& f) {
+    canvas.Clear(RGB(255, 255, 255));
+    DrawAxes(canvas, f, p);
+    canvas.PushClip(f.plot.left, f.plot.top, f.plot.Width(), f.plot.Height());
+    DrawCurves(canvas, f, p);
+    DrawRubberLine(canvas, f, p);
+    canvas.PopClip();
+    DrawTitles(canvas, f, p);
+    DrawLegend(canvas, f, p);
+}

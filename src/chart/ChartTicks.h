@@ -1,0 +1,23 @@
+#pragma once
+
+// Where an axis puts its ticks and what it writes at them: steps of 1, 2 or 5 times a power of
+// ten for numbers, whole calendar units for dates and times.
+
+#include <string>
+#include <vector>
+
+struct AxisTick {
+    double value = 0;
+    std::string label; // may hold a line break (date over time)
+};
+
+// The smallest step of 1, 2 or 5 times a power of ten that divides `span` into at most
+// `maxSteps` steps; a multiple of `unit` when `unit` is positive.
+double NiceStep(double span, int maxSteps, double unit = 0);
+std::vector<AxisTick> NumericTicks(double minimum, double maximum, double step);
+std::string FormatTickValue(double value, double step);
+
+// Ticks at whole calendar units from `minimum` to `maximum` (serials), choosing the finest unit
+// whose ticks lie at least `minSpacing` pixels apart; `style` 8 puts the time under the date.
+std::vector<AxisTick> DateTicks(double minimum, double maximum, double pixelsPerDay,
+                                double minSpacing, int style);
