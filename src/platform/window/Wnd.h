@@ -11,7 +11,6 @@
 
 class CDC;
 class CFont;
-class CMenu;
 class CScrollBar;
 
 class ORVA_API CWnd : public CObject {
@@ -226,10 +225,10 @@ protected:
     virtual void OnNcCalcSize(BOOL calcValidRects, void* params);
     virtual UINT OnNcHitTest(CPoint screenPoint);
     virtual HBRUSH OnCtlColor(CDC* dc, CWnd* wnd, UINT ctlColor);
-    virtual void OnInitMenuPopup(CMenu* popupMenu, UINT index, BOOL sysMenu);
 
 private:
     friend LRESULT AfxWndProc(HWND, UINT, WPARAM, LPARAM);
+    friend struct CWndAccess;     // the window manager's side of binding objects to windows
     WNDPROC m_pfnSuper = nullptr; // the window's own procedure, reached by Default()
     bool m_temporary = false;     // a wrapper made by FromHandle, owned by the window layer
     CDC* m_paintDC = nullptr;

@@ -1,0 +1,55 @@
+#pragma once
+
+// Host: where the windows live. The window manager keeps all window state itself and asks the
+// host only for what differs between running headless and running on a display: the pixels
+// of each top-level window, the clock, waiting for input, the system clipboard's text, the
+// cursor shape, and the message box. A host delivers the user's input through
+// platform/window/Input.h. The headless host is installed unless the application installs
+// another one (the SDL host) at start-up, before it creates a window.
+
+#include "platform/base/Export.h"
+#include "platform/base/WinTypes.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+class Surface;
+
+class ORVA_API Host {
+public:
+    virtual ~Host() = default;
+    virtual const char* Name() const = 0;
+
+    // Top-level windows: the host owns one surface for each, sized to the whole window.
+    virtual Surface* CreateWindowSurface(HWND window, const RECT& screenRect) = 0;
+    virtual Surface* GetWindowSurface(HWND window) = 0;
+    virtual void MoveWindowSurface(HWND window, const RECT& screenRect) = 0;
+    virtual void DestroyWindowSurface(HWND window) = 0;
+    virtual void ShowWindowSurface(HWND window, bool show) = 0;
+    virtual void SetWindowTitle(HWND window, const char* title) = 0;
+    // Painting of the window has finished for now: a display host shows the surface.
+    virtual void Present(HWND window) = 0;
+
+    // Milliseconds since the host started.
+    virtual DWORD Now() const = 0;
+    // Moves a virtual clock on; a host on real time answers false and does nothing.
+    virtual bool AdvanceClock(DWORD milliseconds) = 0;
+    // Waits until input arrives or the clock reaches `deadline`, delivering the input. Answers
+    // false when nothing can arrive any more (a headless host with no deadline).
+    virtual bool WaitForEvents(std::optional<DWORD> deadline) = 0;
+
+    // The text of the system clipboard, for hosts that share one with other programs.
+    virtual void SetClipboardText(const std::string& text) = 0;
+    virtual std::optional<std::string> GetClipboardText() = 0;
+
+    virtual void SetCursorShape(HCURSOR cursor) = 0;
+    // Shows a message box and answers the button chosen; a host that cannot ask anyone
+    // answers the default button.
+    virtual int ShowMessageBox(HWND owner, const char* text, const char* caption, UINT type) = 0;
+};
+
+// The installed host; the headless host until another is installed.
+ORVA_API Host& GetHost();
+// Installs a host, replacing the current one; call before the first window is created.
+ORVA_API void SetHost(std::unique_ptr<Host> host);

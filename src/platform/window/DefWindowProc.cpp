@@ -1,0 +1,175 @@
+// The default procedure: what a window does with a message that its own procedure passes on.
+
+#include "platform/window/ScrollBarTracking.h"
+#include "platform/window/WindowRecord.h"
+
+#include "platform/gdi/DC.h"
+#include "platform/host/Host.h"
+#include "platform/system/SysColors.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace wm {
+void DrawFrame(const WindowRecord& w, HDC windowDC); // NonClientPainter.cpp
+}
+
+namespace {
+using namespace wm;
+
+LRESULT HitTest(const WindowRecord& w, CPoint screen) {
+    const CPoint p = screen - WindowOrigin(w);
+    if (!CRect(CPoint(0, 0), w.rect.Size()).PtInRect(p))
+        return HTNOWHERE;
+    if (ClientInWindow(w).PtInRect(p))
+        return HTCLIENT;
+    const int bar = ScrollBarAt(w, p);
+    if (bar == SB_VERT)
+        return HTVSCROLL;
+    if (bar == SB_HORZ)
+        return HTHSCROLL;
+    const FrameMetrics m = GetFrameMetrics(w);
+    if (m.caption && p.y >= m.border && p.y < m.border + m.caption && p.x >= m.border &&
+        p.x < w.rect.Width() - m.border)
+        return HTCAPTION;
+    return HTBORDER;
+}
+
+// Fills with a class background: a brush, or a system colour index plus one.
+void FillBackground(HDC dc, const RECT& rect, HBRUSH brush) {
+    const auto value = reinterpret_cast<std::uintptr_t>(brush);
+    if (value > 0 && value <= std::uintptr_t(COLOR_COUNT))
+        FillRect(dc, &rect, GetSysColorBrush(int(value - 1)));
+    else
+        FillRect(dc, &rect, brush);
+}
+
+LRESULT SetText(WindowRecord& w, const char* text) {
+    w.text = text ? text : "";
+    if (IsTopLevel(w))
+        GetHost().SetWindowTitle(w.handle, w.text.c_str());
+    if ((w.style & WS_CAPTION) == WS_CAPTION)
+        InvalidateFrame(w);
+    return TRUE;
+}
+
+LRESULT GetText(const WindowRecord& w, WPARAM maxCount, char* buffer) {
+    if (!buffer || maxCount == 0)
+        return 0;
+    const size_t n = std::min<size_t>(w.text.size(), maxCount - 1);
+    std::memcpy(buffer, w.text.data(), n);
+    buffer[n] = '\0';
+    return LRESULT(n);
+}
+} // namespace
+
+LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    WindowRecord* w = Find(hwnd);
+    if (!w)
+        return 0;
+    const HWND parent = IsTopLevel(*w) ? nullptr : w->parent;
+    switch (message) {
+    case WM_NCCREATE:
+        return TRUE;
+    case WM_CLOSE:
+        DestroyWindow(hwnd);
+        return 0;
+    case WM_SETTEXT:
+        return SetText(*w, reinterpret_cast<const char*>(lParam));
+    case WM_GETTEXT:
+        return GetText(*w, wParam, reinterpret_cast<char*>(lParam));
+    case WM_GETTEXTLENGTH:
+        return LRESULT(w->text.size());
+    case WM_SETFONT:
+        w->font = reinterpret_cast<HFONT>(wParam);
+        if (LOWORD(std::uintptr_t(lParam)))
+            InvalidateRect(hwnd, nullptr, TRUE);
+        return 0;
+    case WM_GETFONT:
+        return reinterpret_cast<LRESULT>(w->font);
+    case WM_ERASEBKGND: {
+        if (!w->classBrush)
+            return 0;
+        RECT client;
+        GetClientRect(hwnd, &client);
+        FillBackground(HDC(wParam), client, w->classBrush);
+        return 1;
+    }
+    case WM_PAINT: {
+        PAINTSTRUCT ps;
+        BeginPaint(hwnd, &ps);
+        EndPaint(hwnd, &ps);
+        return 0;
+    }
+    case WM_NCPAINT: {
+        HDC dc = GetWindowDC(hwnd);
+        DrawFrame(*w, dc);
+        ReleaseDC(hwnd, dc);
+        return 0;
+    }
+    case WM_NCHITTEST:
+        return HitTest(*w, CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
+    case WM_NCLBUTTONDOWN:
+    case WM_NCLBUTTONDOWN + 2: // WM_NCLBUTTONDBLCLK
+        if (wParam == HTVSCROLL || wParam == HTHSCROLL)
+            BeginScrollBarTracking(hwnd, wParam == HTVSCROLL ? SB_VERT : SB_HORZ,
+                                   CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
+        return 0;
+    case WM_SETCURSOR:
+        if (parent && SendMessage(parent, WM_SETCURSOR, wParam, lParam))
+            return TRUE;
+        if (LOWORD(std::uintptr_t(lParam)) == HTCLIENT) {
+            if (!w->classCursor)
+                return FALSE;
+            SetCursor(w->classCursor);
+            return TRUE;
+        }
+        SetCursor(LoadCursor(nullptr, IDC_ARROW));
+        return FALSE;
+    case WM_MOUSEWHEEL:
+    case WM_CONTEXTMENU:
+        return parent ? SendMessage(parent, message, wParam, lParam) : 0;
+    case WM_MOUSEACTIVATE:
+        if (parent)
+            if (LRESULT answer = SendMessage(parent, message, wParam, lParam))
+                return answer;
+        return MA_ACTIVATE;
+    case WM_WINDOWPOSCHANGED: {
+        const auto* pos = reinterpret_cast<const WINDOWPOS*>(lParam);
+        if (pos && !(pos->flags & SWP_NOMOVE)) {
+            POINT origin{0, 0};
+            ClientToScreen(hwnd, &origin);
+            if (parent)
+                ScreenToClient(parent, &origin);
+            SendMessage(hwnd, WM_MOVE, 0, MAKELPARAM(WORD(origin.x), WORD(origin.y)));
+        }
+        if (pos && !(pos->flags & SWP_NOSIZE)) {
+            RECT client;
+            GetClientRect(hwnd, &client);
+            SendMessage(hwnd, WM_SIZE, SIZE_RESTORED,
+                        MAKELPARAM(WORD(client.right), WORD(client.bottom)));
+        }
+        return 0;
+    }
+    case WM_ACTIVATE:
+        if (LOWORD(wParam) != WA_INACTIVE) {
+            const HWND focus = GetFocus();
+            if (focus != hwnd && !IsChild(hwnd, focus))
+                SetFocus(hwnd);
+        }
+        return 0;
+    case WM_SETREDRAW:
+        w->redraw = wParam != 0;
+        return 0;
+    case WM_GETMINMAXINFO: {
+        if (auto* info = reinterpret_cast<MINMAXINFO*>(lParam)) {
+            info->ptMaxSize = POINT{1920, 1080};
+            info->ptMaxTrackSize = POINT{1920, 1080};
+            info->ptMinTrackSize = POINT{0, 0};
+        }
+        return 0;
+    }
+    default:
+        return 0;
+    }
+}

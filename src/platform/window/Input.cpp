@@ -1,0 +1,187 @@
+// The user's input turned into messages: hit tests, WM_SETCURSOR, the capture, activation,
+// double clicks, key state, and the characters that TranslateMessage makes of keys.
+
+#include "platform/window/Input.h"
+
+#include "platform/host/Host.h"
+#include "platform/window/InputState.h"
+#include "platform/window/KeyboardLayout.h"
+#include "platform/window/ScrollBarTracking.h"
+#include "platform/window/WindowRecord.h"
+
+namespace {
+using namespace wm;
+
+WPARAM MouseKeyFlags() {
+    const auto& keys = Input().keys;
+    WPARAM flags = 0;
+    if (keys[VK_LBUTTON] & 0x80)
+        flags |= MK_LBUTTON;
+    if (keys[VK_RBUTTON] & 0x80)
+        flags |= MK_RBUTTON;
+    if (keys[VK_MBUTTON] & 0x80)
+        flags |= MK_MBUTTON;
+    if (keys[VK_SHIFT] & 0x80)
+        flags |= MK_SHIFT;
+    if (keys[VK_CONTROL] & 0x80)
+        flags |= MK_CONTROL;
+    return flags;
+}
+
+LPARAM PackPoint(CPoint p) {
+    return MAKELPARAM(WORD(p.x), WORD(p.y));
+}
+
+void SetKey(UINT vk, bool down) {
+    BYTE& state = Input().keys[vk & 0xFF];
+    if (down && !(state & 0x80))
+        state ^= 0x01;
+    state = BYTE(down ? (state | 0x80) : (state & ~0x80));
+}
+
+CPoint ClipToCursorArea(CPoint p) {
+    if (const auto& clip = Input().cursorClip) {
+        p.x = std::clamp<LONG>(p.x, clip->left, std::max(clip->left, clip->right - 1));
+        p.y = std::clamp<LONG>(p.y, clip->top, std::max(clip->top, clip->bottom - 1));
+    }
+    return p;
+}
+
+void PostMouse(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, CPoint screen) {
+    PostInput(MSG{hwnd, message, wParam, lParam, GetHost().Now(), screen});
+}
+
+// A mouse message for the window under the cursor, or for the capture.
+void RouteMouse(UINT message, CPoint screen, int clickCount) {
+    if (TrackScrollBarMouse(message, screen))
+        return;
+    if (HWND capture = GetCapture()) {
+        CPoint client = screen;
+        ScreenToClient(capture, &client);
+        PostMouse(capture, message, MouseKeyFlags(), PackPoint(client), screen);
+        return;
+    }
+    const HWND target = WindowFromPoint(screen);
+    WindowRecord* w = Find(target);
+    if (!w || !IsWindowEnabled(target))
+        return;
+    const bool press =
+        message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN || message == WM_MBUTTONDOWN;
+    if (press) {
+        const HWND top = GetAncestor(target, GA_ROOT);
+        if (top != GetActiveWindow())
+            SetActiveWindow(top);
+    }
+    const int hit = int(SendMessage(target, WM_NCHITTEST, 0, PackPoint(screen)));
+    if (!Find(target))
+        return;
+    SendMessage(target, WM_SETCURSOR, WPARAM(target), MAKELPARAM(WORD(hit), WORD(message)));
+    if (!(w = Find(target)))
+        return;
+    if (press && clickCount >= 2 && clickCount % 2 == 0 && (w->classStyle & CS_DBLCLKS))
+        message += WM_LBUTTONDBLCLK - WM_LBUTTONDOWN;
+    if (hit == HTCLIENT) {
+        CPoint client = screen;
+        ScreenToClient(target, &client);
+        PostMouse(target, message, MouseKeyFlags(), PackPoint(client), screen);
+    } else if (hit != HTNOWHERE && hit != HTTRANSPARENT && hit != HTERROR) {
+        PostMouse(target, message - WM_MOUSEMOVE + WM_NCMOUSEMOVE, WPARAM(hit), PackPoint(screen),
+                  screen);
+    }
+}
+
+UINT ButtonMessage(UINT button, bool down) {
+    switch (button) {
+    case VK_RBUTTON:
+        return down ? WM_RBUTTONDOWN : WM_RBUTTONUP;
+    case VK_MBUTTON:
+        return down ? WM_MBUTTONDOWN : WM_MBUTTONUP;
+    default:
+        return down ? WM_LBUTTONDOWN : WM_LBUTTONUP;
+    }
+}
+
+HWND KeyboardTarget() {
+    if (HWND focus = GetFocus())
+        return focus;
+    return GetActiveWindow();
+}
+} // namespace
+
+void InjectMouseMove(POINT screen) {
+    const CPoint p = ClipToCursorArea(screen);
+    Input().cursorPos = p;
+    RouteMouse(WM_MOUSEMOVE, p, 1);
+}
+
+void InjectMouseButton(UINT button, bool down, POINT screen, int clickCount) {
+    if (button != VK_LBUTTON && button != VK_RBUTTON && button != VK_MBUTTON)
+        return;
+    const CPoint p = ClipToCursorArea(screen);
+    Input().cursorPos = p;
+    SetKey(button, down);
+    RouteMouse(ButtonMessage(button, down), p, clickCount);
+}
+
+void InjectMouseWheel(POINT screen, int delta) {
+    const CPoint p = ClipToCursorArea(screen);
+    Input().cursorPos = p;
+    HWND target = GetCapture();
+    if (!target)
+        target = WindowFromPoint(p);
+    if (!target)
+        target = GetFocus();
+    if (!target || !IsWindowEnabled(target))
+        return;
+    const WPARAM wParam = MAKEWPARAM(WORD(MouseKeyFlags()), WORD(short(delta)));
+    PostMouse(target, WM_MOUSEWHEEL, wParam, PackPoint(p), p);
+}
+
+void InjectKey(UINT vk, bool down) {
+    vk &= 0xFF;
+    const bool wasDown = (Input().keys[vk] & 0x80) != 0;
+    SetKey(vk, down);
+    if (vk == VK_LSHIFT || vk == VK_RSHIFT)
+        SetKey(vk = VK_SHIFT, down);
+    else if (vk == VK_LCONTROL || vk == VK_RCONTROL)
+        SetKey(vk = VK_CONTROL, down);
+    const HWND target = KeyboardTarget();
+    if (!target)
+        return;
+    const bool alt = (Input().keys[VK_MENU] & 0x80) != 0;
+    const bool system = (alt && !(Input().keys[VK_CONTROL] & 0x80)) || vk == VK_MENU;
+    UINT message = down ? WM_KEYDOWN : WM_KEYUP;
+    if (system)
+        message = down ? WM_SYSKEYDOWN : WM_SYSKEYUP;
+    LPARAM lParam = 1;
+    if (alt)
+        lParam |= LPARAM(1) << 29;
+    if (wasDown)
+        lParam |= LPARAM(1) << 30;
+    if (!down)
+        lParam |= LPARAM(1) << 31;
+    PostInput(MSG{target, message, vk, lParam, GetHost().Now(), Input().cursorPos});
+}
+
+void InjectChar(UINT ch) {
+    if (const HWND target = KeyboardTarget())
+        PostInput(MSG{target, WM_CHAR, ch, 1, GetHost().Now(), Input().cursorPos});
+}
+
+void SetKeyHeld(UINT vk, bool down) {
+    SetKey(vk, down);
+}
+
+BOOL TranslateMessage(const MSG* msg) {
+    if (!msg || (msg->message != WM_KEYDOWN && msg->message != WM_SYSKEYDOWN))
+        return FALSE;
+    const auto& keys = Input().keys;
+    const bool shift = (keys[VK_SHIFT] & 0x80) != 0;
+    const bool control = (keys[VK_CONTROL] & 0x80) != 0;
+    const auto ch = CharFromKey(UINT(msg->wParam), shift, control);
+    if (!ch)
+        return FALSE;
+    const UINT message = msg->message == WM_SYSKEYDOWN ? WM_SYSCHAR : WM_CHAR;
+    PostMessage(msg->hwnd, message, WPARAM(BYTE(*ch)), msg->lParam);
+    return TRUE;
+}

@@ -1,0 +1,55 @@
+#include "platform/window/MessageBox.h"
+
+#include "platform/host/Host.h"
+#include "platform/window/MessageBoxAnswerer.h"
+#include "platform/window/Wnd.h"
+
+#include <errno.h>
+
+namespace {
+// Shared by the process; message boxes are shown from the user-interface thread only.
+MessageBoxAnswerer& Answerer() {
+    static MessageBoxAnswerer answerer;
+    return answerer;
+}
+
+std::vector<MessageBoxRecord>& Log() {
+    static std::vector<MessageBoxRecord> log;
+    return log;
+}
+
+const char* ApplicationName() {
+    return program_invocation_short_name;
+}
+} // namespace
+
+MessageBoxAnswerer SetMessageBoxAnswerer(MessageBoxAnswerer answerer) {
+    MessageBoxAnswerer previous = std::move(Answerer());
+    Answerer() = std::move(answerer);
+    return previous;
+}
+
+const std::vector<MessageBoxRecord>& MessageBoxLog() {
+    return Log();
+}
+void ClearMessageBoxLog() {
+    Log().clear();
+}
+
+int MessageBox(HWND owner, const char* text, const char* caption, UINT type) {
+    MessageBoxRecord box{owner, text ? text : "", caption ? caption : "Error", type, 0};
+    // The box is modal: input to the application waits until it is answered.
+    const HWND capture = GetCapture();
+    if (capture)
+        ReleaseCapture();
+    box.answer = Answerer()
+                     ? Answerer()(box)
+                     : GetHost().ShowMessageBox(owner, box.text.c_str(), box.caption.c_str(), type);
+    Log().push_back(box);
+    return box.answer;
+}
+
+int AfxMessageBox(const char* text, UINT type, UINT) {
+    CWnd* main = AfxGetMainWnd();
+    return MessageBox(main ? main->GetSafeHwnd() : nullptr, text, ApplicationName(), type);
+}

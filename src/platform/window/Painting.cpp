@@ -1,0 +1,227 @@
+// Invalidation and painting. A window's update region is kept as its bounding rectangle in
+// client coordinates. Drawing goes to the top-level window's surface, clipped to what of the
+// window can be seen; since one clip rectangle cannot leave a child's area out of its
+// parent's, invalidating a parent also invalidates the children it covers, and the pump paints
+// parents before their children so that children end up on top.
+
+#include "platform/window/WindowRecord.h"
+
+#include "platform/gdi/DC.h"
+#include "platform/host/Host.h"
+
+namespace wm {
+namespace {
+
+bool HasFrame(const WindowRecord& w) {
+    const FrameMetrics m = GetFrameMetrics(w);
+    return m.left || m.top || m.right || m.bottom;
+}
+
+bool NeedsPaint(const WindowRecord& w) {
+    return w.redraw && !w.inPaint && IsShowing(w) &&
+           (!w.update.IsRectEmpty() || (w.frameDirty && HasFrame(w)));
+}
+
+HWND FirstToPaint(const WindowRecord& w) {
+    if (NeedsPaint(w))
+        return w.handle;
+    for (auto it = w.children.rbegin(); it != w.children.rend(); ++it)
+        if (const WindowRecord* c = Find(*it))
+            if (HWND found = FirstToPaint(*c))
+                return found;
+    return nullptr;
+}
+
+CRect ClientBounds(const WindowRecord& w) {
+    return CRect(CPoint(0, 0), ClientInWindow(w).Size());
+}
+
+HDC SurfaceDC(const WindowRecord& w, bool client, const CRect& clip) {
+    WindowRecord* top = TopLevelOf(const_cast<WindowRecord*>(&w));
+    Surface* surface = top ? GetHost().GetWindowSurface(top->handle) : nullptr;
+    if (!surface)
+        return CreateCompatibleDC(nullptr);
+    return CreateSurfaceDC(surface, SurfaceOrigin(w, client), clip);
+}
+
+// Removes `rect` from the bounding rectangle where it covers a whole side of it.
+CRect Subtract(const CRect& update, const CRect& rect) {
+    CRect result = update;
+    if (rect.left <= result.left && rect.right >= result.right) {
+        if (rect.top <= result.top && rect.bottom > result.top)
+            result.top = std::min(rect.bottom, result.bottom);
+        if (rect.bottom >= result.bottom && rect.top < result.bottom)
+            result.bottom = std::max(rect.top, result.top);
+    }
+    if (rect.top <= result.top && rect.bottom >= result.bottom) {
+        if (rect.left <= result.left && rect.right > result.left)
+            result.left = std::min(rect.right, result.right);
+        if (rect.right >= result.right && rect.left < result.right)
+            result.right = std::max(rect.left, result.left);
+    }
+    if (result.IsRectEmpty())
+        result.SetRectEmpty();
+    return result;
+}
+
+void PaintNow(HWND hwnd) {
+    WindowRecord* w = Find(hwnd);
+    if (!w || !NeedsPaint(*w))
+        return;
+    const MSG msg{hwnd, WM_PAINT, 0, 0, GetHost().Now(), {}};
+    DispatchMessage(&msg);
+}
+} // namespace
+
+HWND NextWindowToPaint() {
+    for (HWND top : TopLevelWindows())
+        if (const WindowRecord* w = Find(top))
+            if (HWND found = FirstToPaint(*w))
+                return found;
+    return nullptr;
+}
+
+void InvalidateFrame(WindowRecord& w) {
+    w.frameDirty = true;
+}
+
+void InvalidateClient(WindowRecord& w, const CRect& clientRect, bool erase) {
+    if (!w.redraw)
+        return;
+    const CRect area = clientRect & ClientBounds(w);
+    if (area.IsRectEmpty())
+        return;
+    w.update |= area;
+    w.eraseOnPaint = w.eraseOnPaint || erase;
+    for (HWND child : w.children) {
+        WindowRecord* c = Find(child);
+        if (!c || !(c->style & WS_VISIBLE))
+            continue;
+        const CRect overlap = area & c->rect;
+        if (overlap.IsRectEmpty())
+            continue;
+        if (HasFrame(*c))
+            InvalidateFrame(*c);
+        InvalidateClient(*c, overlap - c->rect.TopLeft() - ClientInWindow(*c).TopLeft(), erase);
+    }
+}
+
+} // namespace wm
+
+using namespace wm;
+
+BOOL InvalidateRect(HWND hwnd, const RECT* rect, BOOL erase) {
+    WindowRecord* w = Find(hwnd);
+    if (!w)
+        return FALSE;
+    InvalidateClient(*w, rect ? CRect(*rect) : ClientBounds(*w), erase != FALSE);
+    return TRUE;
+}
+
+BOOL ValidateRect(HWND hwnd, const RECT* rect) {
+    WindowRecord* w = Find(hwnd);
+    if (!w)
+        return FALSE;
+    w->update = rect ? Subtract(w->update, CRect(*rect)) : CRect();
+    if (w->update.IsRectEmpty())
+        w->eraseOnPaint = false;
+    return TRUE;
+}
+
+BOOL GetUpdateRect(HWND hwnd, RECT* rect, BOOL) {
+    const WindowRecord* w = Find(hwnd);
+    if (!w)
+        return FALSE;
+    if (rect)
+        *rect = w->update;
+    return !w->update.IsRectEmpty();
+}
+
+BOOL UpdateWindow(HWND hwnd) {
+    if (!Find(hwnd))
+        return FALSE;
+    for (HWND h : SubtreeOf(hwnd))
+        PaintNow(h);
+    return TRUE;
+}
+
+BOOL RedrawWindow(HWND hwnd, const RECT* updateRect, HRGN, UINT flags) {
+    WindowRecord* w = Find(hwnd);
+    if (!w)
+        return FALSE;
+    if (flags & RDW_INVALIDATE) {
+        InvalidateClient(*w, updateRect ? CRect(*updateRect) : ClientBounds(*w),
+                         (flags & RDW_ERASE) != 0);
+        if (flags & RDW_FRAME)
+            InvalidateFrame(*w);
+    }
+    if (flags & RDW_VALIDATE) {
+        ValidateRect(hwnd, updateRect);
+        if (flags & RDW_NOFRAME)
+            w->frameDirty = false;
+    }
+    if (flags & RDW_UPDATENOW)
+        UpdateWindow(hwnd);
+    return TRUE;
+}
+
+HDC BeginPaint(HWND hwnd, PAINTSTRUCT* paint) {
+    WindowRecord* w = Find(hwnd);
+    if (!w || !paint)
+        return nullptr;
+    *paint = PAINTSTRUCT{};
+    if (w->frameDirty) {
+        w->frameDirty = false;
+        Send(w, WM_NCPAINT, 1, 0);
+        if ((w = Find(hwnd)) == nullptr)
+            return nullptr;
+    }
+    const CRect update = w->update & ClientBounds(*w);
+    const bool erase = w->eraseOnPaint;
+    w->update.SetRectEmpty();
+    w->eraseOnPaint = false;
+    w->inPaint = true;
+    paint->rcPaint = update;
+    const CRect clip = (update + SurfaceOrigin(*w, true)) & VisibleClientInSurface(*w);
+    paint->hdc = SurfaceDC(*w, true, clip);
+    if (erase && !update.IsRectEmpty())
+        paint->fErase = Send(w, WM_ERASEBKGND, WPARAM(paint->hdc), 0) == 0;
+    return paint->hdc;
+}
+
+BOOL EndPaint(HWND hwnd, const PAINTSTRUCT* paint) {
+    if (paint && paint->hdc)
+        DeleteDC(paint->hdc);
+    WindowRecord* w = Find(hwnd);
+    if (!w)
+        return FALSE;
+    w->inPaint = false;
+    if (WindowRecord* top = TopLevelOf(w))
+        GetHost().Present(top->handle);
+    return TRUE;
+}
+
+HDC GetDC(HWND hwnd) {
+    if (!hwnd)
+        return CreateCompatibleDC(nullptr);
+    const WindowRecord* w = Find(hwnd);
+    if (!w)
+        return nullptr;
+    return SurfaceDC(*w, true, IsShowing(*w) ? VisibleClientInSurface(*w) : CRect());
+}
+
+HDC GetWindowDC(HWND hwnd) {
+    const WindowRecord* w = Find(hwnd);
+    if (!w)
+        return hwnd ? nullptr : CreateCompatibleDC(nullptr);
+    return SurfaceDC(*w, false, IsShowing(*w) ? VisibleWindowInSurface(*w) : CRect());
+}
+
+int ReleaseDC(HWND hwnd, HDC dc) {
+    if (!dc)
+        return 0;
+    DeleteDC(dc);
+    if (WindowRecord* top = TopLevelOf(Find(hwnd)))
+        GetHost().Present(top->handle);
+    return 1;
+}
