@@ -737,9 +737,10 @@ void CDC::FillSolidRect(const RECT& rect, COLORREF color) {
     // As the framework does it: the background colour becomes `color`.
     SetBkColor(color);
     DcState* dc = LookupDC(m_hDC);
-    if (dc == nullptr || rect.right <= rect.left || rect.bottom <= rect.top)
+    if (dc == nullptr)
         return;
-    RECT r = dc->ToSurface(rect);
+    // An upside-down rectangle is turned the right way, as the framework's opaque fill does.
+    RECT r = dc->ToSurface(Normalized(rect.left, rect.top, rect.right, rect.bottom));
     cairo_t* cr = dc->Cairo();
     SetSource(cr, color);
     cairo_rectangle(cr, r.left, r.top, r.right - r.left, r.bottom - r.top);

@@ -178,6 +178,9 @@ void ApplyRop3(cairo_surface_t* surface, const cairo_region_t* clip, const RECT&
 // Applies a binary pen operation wherever `mask` (A8, placed at maskX, maskY) is set.
 void ApplyRop2Mask(cairo_surface_t* surface, const cairo_region_t* clip, cairo_surface_t* mask,
                    int maskX, int maskY, std::uint32_t penPixel, int rop2);
+// Applies the context's pen operation (R2_*) to single surface pixels, each with its colour.
+void ApplyRop2Pixels(DcState* dc, const std::vector<POINT>& pixels,
+                     const std::vector<COLORREF>& colors);
 // The cairo source for a brush on a context, aligned to the brush origin; null for a hollow
 // brush. The caller destroys it.
 cairo_pattern_t* BrushPattern(DcState* dc, BrushObject* brush);
