@@ -5,10 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
 #include <filesystem>
-#include <poll.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -45,26 +42,6 @@ protected:
         const INT_PTR code = Code(FindExecutableA(file, directory, buffer));
         program = buffer;
         return code;
-    }
-
-    // What the reader wrote, waiting for it at most a few seconds.
-    std::string ReaderOutput() {
-        const std::string fifo = m_scratch / "reader.out";
-        const int descriptor = open(fifo.c_str(), O_RDONLY | O_NONBLOCK);
-        std::string text;
-        for (;;) {
-            pollfd watch{descriptor, POLLIN, 0};
-            if (poll(&watch, 1, 5000) <= 0)
-                break;
-            char chunk[256];
-            const ssize_t got = read(descriptor, chunk, sizeof chunk);
-            if (got <= 0 && !text.empty())
-                break;
-            if (got > 0)
-                text.append(chunk, size_t(got));
-        }
-        close(descriptor);
-        return text;
     }
 
     ScratchFolder m_scratch;
@@ -114,9 +91,9 @@ TEST_F(ShellAssociations, EachCauseOfFailureHasItsCode) {
 }
 
 TEST_F(ShellAssociations, OpenStartsTheReaderWithTheFieldCodesFilledIn) {
-    ASSERT_EQ(mkfifo((m_scratch / "reader.out").c_str(), 0600), 0);
+    m_scratch.MakePipe("reader.out");
     EXPECT_GT(Code(ShellExecuteA(nullptr, "open", m_document.c_str(), nullptr, nullptr, 1)), 32);
-    EXPECT_EQ(ReaderOutput(), "--name\nReader\n" + m_document + "\n");
+    EXPECT_EQ(m_scratch.ReadPipe("reader.out"), "--name\nReader\n" + m_document + "\n");
 }
 
 TEST_F(ShellAssociations, OpenRefusesOtherVerbsAndMissingFiles) {
