@@ -3,13 +3,11 @@
 // System-wide parameters and the system's version, as the framework's code asks for them.
 
 #include "platform/base/Export.h"
+#include "platform/base/Messages.h"
 #include "platform/base/WinTypes.h"
 
 constexpr UINT SPI_GETNONCLIENTMETRICS = 0x29;
 constexpr UINT SPI_GETWHEELSCROLLLINES = 0x68;
-
-// A wheel notch scrolls a page when the wheel lines are this value.
-constexpr UINT WHEEL_PAGESCROLL = 0xFFFFFFFF;
 
 // The full record; a caller on an older system passes the size without the padded border.
 struct NONCLIENTMETRICS {
