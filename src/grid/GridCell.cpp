@@ -1,0 +1,104 @@
+#include "grid/GridCell.h"
+
+#include "grid/GridCtrl.h"
+
+#include <memory>
+
+IMPLEMENT_DYNCREATE(CGridCell, CGridCellBase)
+
+CGridCell::CGridCell() : m_font(nullptr) {
+    CGridCell::Reset();
+}
+
+CGridCell::~CGridCell() {
+    delete m_font;
+}
+
+CGridCell& CGridCell::operator=(const CGridCell& source) {
+    CGridCellBase::operator=(source);
+    return *this;
+}
+
+void CGridCell::SetFont(const LOGFONT* logFont) {
+    if (logFont == nullptr) {
+        delete m_font;
+        m_font = nullptr;
+        return;
+    }
+    if (m_font == nullptr) {
+        m_font = new LOGFONT;
+    }
+    *m_font = *logFont;
+}
+
+DWORD CGridCell::GetFormat() const {
+    if (m_format == 0xFFFFFFFF) {
+        if (CGridCellBase* defaultCell = GetDefaultCell()) {
+            return defaultCell->GetFormat();
+        }
+    }
+    return m_format;
+}
+
+UINT CGridCell::GetMargin() const {
+    if (m_margin == 0xFFFFFFFF) {
+        if (CGridCellBase* defaultCell = GetDefaultCell()) {
+            return defaultCell->GetMargin();
+        }
+    }
+    return m_margin;
+}
+
+LOGFONT* CGridCell::GetFont() const {
+    if (m_font == nullptr) {
+        if (CGridCellBase* defaultCell = GetDefaultCell()) {
+            return defaultCell->GetFont();
+        }
+    }
+    return m_font;
+}
+
+CFont* CGridCell::GetFontObject() const {
+    if (m_font == nullptr) {
+        CGridCellBase* defaultCell = GetDefaultCell();
+        return defaultCell != nullptr ? defaultCell->GetFontObject() : nullptr;
+    }
+    // One object for every cell with a font of its own, remade on each call: cheap to hold,
+    // and nobody may keep the pointer. Shared without a lock, as the grid runs on one thread.
+    static CFont fontObject;
+    fontObject.DeleteObject();
+    fontObject.CreateFontIndirect(m_font);
+    return &fontObject;
+}
+
+void CGridCell::Reset() {
+    CGridCellBase::Reset();
+    m_text.Empty();
+    m_data = 0;
+    m_image = -1;
+    m_format = 0xFFFFFFFF;
+    m_textColor = CLR_DEFAULT;
+    m_backColor = CLR_DEFAULT;
+    delete m_font;
+    m_font = nullptr;
+    m_margin = 0xFFFFFFFF;
+    m_editing = FALSE;
+    m_grid = nullptr;
+    m_editWnd = nullptr;
+}
+
+BOOL CGridCell::Edit(int row, int col, CRect rect, CPoint point, UINT id, UINT ch) {
+    // The in-place editor opens here; without one the cell is not editable in place.
+    return FALSE;
+}
+
+void CGridCell::EndEdit() {
+    if (m_editWnd != nullptr) {
+        m_editWnd->SendMessage(WM_CLOSE);
+    }
+}
+
+void CGridCell::OnEndEdit() {
+    m_editing = FALSE;
+    m_editWnd = nullptr;
+}
