@@ -337,7 +337,7 @@ BOOL Blit(DcState* dst, RECT area, cairo_surface_t* source, int sx, int sy, bool
     if (rop == SRCCOPY && sourceMono == destMono) {
         cairo_t* cr = dst->Cairo();
         cairo_set_operator(cr, CAIRO_OPERATOR_SOURCE);
-        cairo_set_source_surface(cr, source, dx, dy);
+        cairo_set_source_surface(cr, source, -dx, -dy);
         cairo_rectangle(cr, area.left, area.top, area.right - area.left, area.bottom - area.top);
         cairo_fill(cr);
         cairo_set_operator(cr, CAIRO_OPERATOR_OVER);
