@@ -3,6 +3,9 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
+#include <string>
+#include <string_view>
 #include <unordered_map>
 
 namespace {
@@ -29,9 +32,37 @@ int LeadingSeparators(std::string_view text) {
     return count;
 }
 
-void Append(CString& line, const char* chunk, int length) {
-    if (length > 0)
-        line += CString(chunk, length);
+// Where the next token lies in `line`: its text, and how much of the line it uses up with
+// the separators around it. False when there is no token, or its quote is not closed.
+struct Token {
+    std::string_view text;
+    int consumed = 0;
+    bool unclosedQuote = false;
+};
+
+bool FindToken(std::string_view line, Token& token) {
+    const int start = LeadingSeparators(line);
+    std::string_view rest = line.substr(size_t(start));
+    if (rest.empty()) {
+        token.consumed = int(line.size());
+        return false;
+    }
+    if (rest.front() == '"') {
+        const auto quote = rest.find('"', 1);
+        if (quote == std::string_view::npos) {
+            token.consumed = start + 1;
+            token.unclosedQuote = true;
+            return false;
+        }
+        token.text = rest.substr(1, quote - 1);
+        rest.remove_prefix(quote + 1);
+    } else {
+        const auto separator = rest.find_first_of(kSeparators);
+        token.text = rest.substr(0, separator);
+        rest.remove_prefix(separator == std::string_view::npos ? rest.size() : separator);
+    }
+    token.consumed = int(line.size() - rest.size()) + LeadingSeparators(rest);
+    return true;
 }
 
 // The conversion of the processor's truncating instructions: a value out of range gives the
@@ -50,10 +81,19 @@ std::int64_t TruncateTo64(double value) {
 
 // What sscanf with "%lf" reads: strtod agrees with it whenever strtod takes the whole token;
 // otherwise the scanner itself decides.
-bool ScanDouble(const CString& token, double& value) {
-    const char* text = token;
-    if (*text == '\0')
+bool ScanDouble(std::string_view token, double& value) {
+    if (token.empty())
         return false;
+    char small[64];
+    std::string large;
+    const char* text = small;
+    if (token.size() < sizeof small) {
+        std::memcpy(small, token.data(), token.size());
+        small[token.size()] = '\0';
+    } else {
+        large.assign(token);
+        text = large.c_str();
+    }
     char* end = nullptr;
     const double parsed = std::strtod(text, &end);
     if (end != text && *end == '\0') {
@@ -82,6 +122,8 @@ bool daGetLine(CString& line, FILE* file) {
     line.Empty();
     if (file == nullptr || std::feof(file))
         return false;
+    // The text goes to the line in pieces of 49 bytes, and the end of the file counts as a
+    // line end only while a piece is being filled: the count of bytes in the piece decides.
     char chunk[kChunkSize];
     int used = 0;
     bool read = true;
@@ -97,20 +139,20 @@ bool daGetLine(CString& line, FILE* file) {
         }
         if (ch == 0 || ch > 127)
             continue;
-        chunk[used++] = char(ch);
         if (ch == '\n') {
-            Append(line, chunk, used - 1);
+            line.Append(chunk, used);
             used = 0;
             line.TrimRight('\r');
             break;
         }
+        chunk[used++] = char(ch);
         if (used == kChunkSize - 1) {
-            Append(line, chunk, used);
+            line.Append(chunk, used);
             used = 0;
         }
     }
     if (used > 0) {
-        Append(line, chunk, used);
+        line.Append(chunk, used);
         line.TrimRight('\r');
     }
     if (!read)
@@ -131,29 +173,12 @@ void daSetLineCount(FILE* file, int count) {
 
 int daGetText(CString& line, CString& text) {
     text.Empty();
-    std::string_view rest = line.View();
-    rest.remove_prefix(size_t(LeadingSeparators(rest)));
-    if (rest.empty()) {
-        line.Empty();
-        return 0;
-    }
-    if (rest.front() == '"') {
-        rest.remove_prefix(1);
-        const auto quote = rest.find('"');
-        if (quote == std::string_view::npos) {
-            line = CString(rest);
-            return 0;
-        }
-        text = CString(rest.substr(0, quote));
-        rest.remove_prefix(quote + 1);
-    } else {
-        const auto separator = rest.find_first_of(kSeparators);
-        text = CString(rest.substr(0, separator));
-        rest.remove_prefix(separator == std::string_view::npos ? rest.size() : separator);
-    }
-    rest.remove_prefix(size_t(LeadingSeparators(rest)));
-    line = CString(rest);
-    return 1;
+    Token token;
+    const bool found = FindToken(line.View(), token);
+    if (found)
+        text = CString(token.text);
+    line.Delete(0, token.consumed);
+    return found ? 1 : 0;
 }
 
 int daReadData(CString& line, CString& text) {
@@ -161,13 +186,12 @@ int daReadData(CString& line, CString& text) {
 }
 
 int daReadData(CString& line, double& value) {
-    const CString kept = line;
-    CString token;
-    daGetText(line, token);
-    if (ScanDouble(token, value))
-        return 1;
-    line = kept;
-    return 0;
+    // A token that is not a number is not consumed; so the line is cut only after the read.
+    Token token;
+    if (!FindToken(line.View(), token) || !ScanDouble(token.text, value))
+        return 0;
+    line.Delete(0, token.consumed);
+    return 1;
 }
 
 int daReadData(CString& line, float& value) {
