@@ -169,7 +169,7 @@ void FrameControls(CDC& dc, int top) {
             dc.DrawText("OK", -1, &text, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
         }
         Label(dc, CRect(x, r.top, x + s.width, top + 46), s.name);
-        x += s.width + 28;
+        x += s.type == DFC_BUTTON && s.width < 20 ? 52 : s.width + 28;
     }
 }
 
