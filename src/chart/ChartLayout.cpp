@@ -96,10 +96,6 @@ std::vector<LegendEntry> LegendEntries(const ChartProperties& p, const ChartSeri
 
 } // namespace
 
-bool IsMissing(double value) {
-    return value == MissingValue;
-}
-
 int CurveColour(const ChartProperties& p, int curve) {
     const auto& colours = p.Ints(CurveColours);
     if (size_t(curve) < colours.size())

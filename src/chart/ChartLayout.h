@@ -33,7 +33,9 @@ struct ChartSeries {
     double Y(int s, int p) const { return y[size_t(s) * points + p]; }
 };
 ChartSeries SeriesOf(const ChartProperties& properties);
-bool IsMissing(double value);
+inline bool IsMissing(double value) {
+    return value == -9999.0;
+}
 
 struct LegendEntry {
     std::string text;

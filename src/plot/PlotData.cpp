@@ -30,7 +30,7 @@ void EPlotData::Initialize(int numSets, int numPoints, int kindOfData) {
     m_subsetColors.assign(size_t(numSets), MUcolor(0, 255, 0, 0));
     const std::vector<double> row(size_t(numPoints), kMissing);
     m_yValues.assign(size_t(numSets), row);
-    const std::vector<zvk::CStdStr<char>> labels(size_t(numPoints));
+    const std::vector<zvk::CStdStr<char>> labels(static_cast<size_t>(numPoints));
     if (kindOfData == 0) {
         m_xValues.assign(size_t(numSets), row);
         m_pointLabels.assign(size_t(numSets), labels);

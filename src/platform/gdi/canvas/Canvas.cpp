@@ -176,6 +176,16 @@ void Canvas::Line(double x0, double y0, double x1, double y1, COLORREF colour, d
     Polyline(xy, 2, colour, lineWidth, dashes);
 }
 
+void Canvas::FillRects(const double* xywh, size_t count, COLORREF colour) {
+    cairo_t* cr = m_impl->cr;
+    cairo_new_path(cr);
+    for (size_t i = 0; i < count; ++i)
+        cairo_rectangle(cr, xywh[4 * i], xywh[4 * i + 1], xywh[4 * i + 2], xywh[4 * i + 3]);
+    SetColour(cr, colour);
+    cairo_set_fill_rule(cr, CAIRO_FILL_RULE_WINDING);
+    cairo_fill(cr);
+}
+
 void Canvas::FillPolygon(const double* xy, size_t pointCount, COLORREF colour) {
     if (pointCount < 3)
         return;

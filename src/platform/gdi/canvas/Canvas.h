@@ -50,6 +50,8 @@ public:
                   const std::vector<double>& dashes = {});
     void Line(double x0, double y0, double x1, double y1, COLORREF colour, double lineWidth,
               const std::vector<double>& dashes = {});
+    // Many rectangles (x, y, width, height, ...) filled as one shape.
+    void FillRects(const double* xywh, size_t count, COLORREF colour);
     void FillPolygon(const double* xy, size_t pointCount, COLORREF colour);
     void FillCircle(double cx, double cy, double radius, COLORREF colour);
     void StrokeCircle(double cx, double cy, double radius, COLORREF colour, double lineWidth);
