@@ -1,0 +1,21 @@
+#include "platform/testing/MessageBoxResponder.h"
+
+#include "platform/host/HeadlessHost.h"
+
+MessageBoxResponder::MessageBoxResponder() {
+    m_previous = SetMessageBoxAnswerer([this](const MessageBoxRecord& box) {
+        int answer = DefaultMessageBoxButton(box.type);
+        if (!m_answers.empty()) {
+            answer = m_answers.front();
+            m_answers.pop_front();
+        }
+        MessageBoxRecord answered = box;
+        answered.answer = answer;
+        m_boxes.push_back(answered);
+        return answer;
+    });
+}
+
+MessageBoxResponder::~MessageBoxResponder() {
+    SetMessageBoxAnswerer(std::move(m_previous));
+}
