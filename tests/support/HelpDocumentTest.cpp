@@ -1,6 +1,6 @@
 #include "support/HelpDocument.h"
 
-#include "platform/window/MessageBoxAnswerer.h"
+#include "platform/testing/MessageBoxResponder.h"
 #include "support/ProcessLaunch.h"
 
 #include "../platform/system/EnvironmentVariable.h"
@@ -62,30 +62,23 @@ protected:
         m_document = m_scratch.Write("app/rd4.pdf", "%PDF-1.4\n");
         m_scratch.MakePipe("reader.out");
         xgSetApplicationPath((m_scratch / "app/").c_str());
-        m_previousAnswerer = SetMessageBoxAnswerer([](const MessageBoxRecord&) { return 1; });
-        ClearMessageBoxLog();
     }
-    ~Help() override {
-        SetMessageBoxAnswerer(m_previousAnswerer);
-        xgSetApplicationPath("");
-    }
+    ~Help() override { xgSetApplicationPath(""); }
 
-    std::string LastMessage() const {
-        return MessageBoxLog().empty() ? "" : MessageBoxLog().back().text;
-    }
+    std::string LastMessage() const { return m_boxes.LastText(); }
 
     ScratchFolder m_scratch;
     EnvironmentVariable m_dataHome, m_dataDirs, m_configHome, m_configDirs, m_output;
     std::string m_reader;
     std::string m_document;
-    MessageBoxAnswerer m_previousAnswerer;
+    MessageBoxResponder m_boxes;
 };
 
 TEST_F(Help, TopicOpensTheReaderAtItsDestination) {
     EXPECT_TRUE(HelpDocument::OpenAtTopic(7));
     EXPECT_EQ(m_scratch.ReadPipe("reader.out"),
               "/A\nnameddest=Culvert Crossing Data\n" + m_document + "\n");
-    EXPECT_TRUE(MessageBoxLog().empty());
+    EXPECT_EQ(m_boxes.Count(), 0);
 }
 
 TEST_F(Help, MinusOneOpensTheDocumentThroughTheShell) {
@@ -100,7 +93,7 @@ TEST_F(Help, MissingDocumentIsToldByEveryRoad) {
                                  ".  Make sure this document exists on your computer and that "
                                  "you have installed Adobe Acrobat.");
     EXPECT_TRUE(HelpDocument::OpenAtTopic(-1)); // true all the same, after the message
-    EXPECT_EQ(MessageBoxLog().size(), 2u);
+    EXPECT_EQ(m_boxes.Count(), 2);
     EXPECT_FALSE(HelpDocument::OpenAtTopic(3));
     EXPECT_EQ(LastMessage(), "The RD-4 Help PDF File Document was not found.");
 }
