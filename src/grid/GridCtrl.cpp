@@ -7,6 +7,8 @@
 #include "platform/system/SysColors.h"
 #include "platform/system/SystemParameters.h"
 
+#include <new>
+
 IMPLEMENT_DYNCREATE(CGridCtrl, CWnd)
 
 GV_DISPINFO CGridCtrl::gvdi;
@@ -75,12 +77,10 @@ BOOL CGridCtrl::Create(const RECT& rect, CWnd* parent, UINT id, DWORD style) {
     // The framework attaches the window before its first message; this is where the grid
     // takes its parent's font.
     Initialise();
-    try {
+    Allocating([this] {
         m_rowHeights.assign(size_t(m_rowCount), UINT(m_cellDefault.GetHeight()));
         m_colWidths.assign(size_t(m_colCount), UINT(m_cellDefault.GetWidth()));
-    } catch (const std::bad_alloc&) {
-        ReportMemoryException();
-    }
+    });
     ResetScrollBars();
     return TRUE;
 }
@@ -174,9 +174,17 @@ void CGridCtrl::Refresh() {
     }
 }
 
-void CGridCtrl::ReportMemoryException() const {
-    CMemoryException exception;
-    exception.ReportError();
+bool CGridCtrl::Allocating(const std::function<void()>& step) {
+    try {
+        step();
+        return true;
+    } catch (CMemoryException* exception) {
+        exception->ReportError();
+        exception->Delete();
+    } catch (const std::bad_alloc&) {
+        CMemoryException().ReportError();
+    }
+    return false;
 }
 
 CWnd* CGridCtrl::NotifyTarget() const {

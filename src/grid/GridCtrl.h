@@ -15,6 +15,7 @@
 #include "grid/GridNotify.h"
 #include "platform/window/Wnd.h"
 
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -389,7 +390,9 @@ protected:
     void ClearSelectionAndFocus();
     void DiscardRowsBeyondCount();
     void ReadWheelScrollLines();
-    void ReportMemoryException() const;
+    // Runs a step that allocates. A failed allocation is reported through the memory
+    // exception's own box and answers false; what the step made before failing stays.
+    static bool Allocating(const std::function<void()>& step);
 
     // Store.
     std::vector<UINT> m_rowHeights;

@@ -68,25 +68,25 @@ BOOL CGridCtrl::SetRowCount(int rows) {
         }
         m_rowCount = rows;
     }
-    try {
+    const bool made = Allocating([this, rows] {
         const UINT height = UINT(m_cellDefault.GetHeight());
         m_rowHeights.resize(size_t(rows), height);
         if (m_virtualMode) {
             m_rowCount = rows;
-        } else {
-            m_rowData.resize(size_t(rows), nullptr);
-            // The count grows row by row, so that CreateCell sees the rows made before.
-            for (int row = m_rowCount; row < rows; row++) {
-                m_rowHeights[size_t(row)] = height;
-                m_rowData[size_t(row)] = new GridRow(size_t(m_colCount), nullptr);
-                for (int col = 0; col < m_colCount; col++) {
-                    (*m_rowData[size_t(row)])[size_t(col)] = CreateCell(row, col);
-                }
-                m_rowCount++;
-            }
+            return;
         }
-    } catch (const std::bad_alloc&) {
-        ReportMemoryException();
+        m_rowData.resize(size_t(rows), nullptr);
+        // The count grows row by row, so that CreateCell sees the rows made before.
+        for (int row = m_rowCount; row < rows; row++) {
+            m_rowHeights[size_t(row)] = height;
+            m_rowData[size_t(row)] = new GridRow(size_t(m_colCount), nullptr);
+            for (int col = 0; col < m_colCount; col++) {
+                (*m_rowData[size_t(row)])[size_t(col)] = CreateCell(row, col);
+            }
+            m_rowCount++;
+        }
+    });
+    if (!made) {
         DiscardRowsBeyondCount();
         return FALSE;
     }
@@ -134,19 +134,20 @@ BOOL CGridCtrl::SetColumnCount(int cols) {
             }
         }
     }
-    try {
+    const bool made = Allocating([this, cols, oldCount] {
         m_colWidths.resize(size_t(cols), UINT(m_cellFixedColDef.GetWidth()));
-        if (!m_virtualMode) {
-            for (int row = 0; row < m_rowCount; row++) {
-                GridRow* cells = RowAt(row);
-                cells->resize(size_t(cols), nullptr);
-                for (int col = oldCount; col < cols; col++) {
-                    (*cells)[size_t(col)] = CreateCell(row, col);
-                }
+        if (m_virtualMode) {
+            return;
+        }
+        for (int row = 0; row < m_rowCount; row++) {
+            GridRow* cells = RowAt(row);
+            cells->resize(size_t(cols), nullptr);
+            for (int col = oldCount; col < cols; col++) {
+                (*cells)[size_t(col)] = CreateCell(row, col);
             }
         }
-    } catch (const std::bad_alloc&) {
-        ReportMemoryException();
+    });
+    if (!made) {
         // Only growth allocates: go back to the old shape.
         for (GridRow* cells : m_rowData) {
             for (size_t col = size_t(oldCount); cells != nullptr && col < cells->size(); col++) {
@@ -274,20 +275,26 @@ int CGridCtrl::InsertColumn(LPCTSTR heading, UINT format, int column) {
         column = m_colCount;
     }
     int rowsDone = 0;
-    try {
+    bool rowMissing = false;
+    const bool made = Allocating([&] {
         m_colWidths.insert(m_colWidths.begin() + column, 0);
-        if (!m_virtualMode) {
-            for (; rowsDone < m_rowCount; rowsDone++) {
-                GridRow* cells = RowAt(rowsDone);
-                if (cells == nullptr) {
-                    return -1;
-                }
-                cells->insert(cells->begin() + column, nullptr);
-                (*cells)[size_t(column)] = CreateCell(rowsDone, column);
-            }
+        if (m_virtualMode) {
+            return;
         }
-    } catch (const std::bad_alloc&) {
-        ReportMemoryException();
+        for (; rowsDone < m_rowCount; rowsDone++) {
+            GridRow* cells = RowAt(rowsDone);
+            if (cells == nullptr) {
+                rowMissing = true;
+                return;
+            }
+            cells->insert(cells->begin() + column, nullptr);
+            (*cells)[size_t(column)] = CreateCell(rowsDone, column);
+        }
+    });
+    if (rowMissing) {
+        return -1;
+    }
+    if (!made) {
         for (int row = 0; row <= rowsDone && row < m_rowCount; row++) {
             GridRow* cells = RowAt(row);
             if (cells->size() > size_t(m_colCount)) {
@@ -333,27 +340,40 @@ int CGridCtrl::InsertRow(LPCTSTR heading, int row) {
         row = m_rowCount;
     }
     bool heightInserted = false;
-    try {
+    GridRow* cells = nullptr;
+    bool counted = false;
+    const bool made = Allocating([&] {
         m_rowHeights.insert(m_rowHeights.begin() + row, 0);
         heightInserted = true;
         if (!m_virtualMode) {
-            auto cells = std::make_unique<GridRow>(size_t(m_colCount), nullptr);
-            m_rowData.insert(m_rowData.begin() + row, cells.get());
-            cells.release();
+            auto newRow = std::make_unique<GridRow>(size_t(m_colCount), nullptr);
+            m_rowData.insert(m_rowData.begin() + row, newRow.get());
+            cells = newRow.release();
         }
-    } catch (const std::bad_alloc&) {
-        ReportMemoryException();
+        m_rowCount++;
+        counted = true;
+        // Cells are made once the row counts, so that CreateCell sees it.
+        for (int col = 0; cells != nullptr && col < m_colCount; col++) {
+            (*cells)[size_t(col)] = CreateCell(row, col);
+        }
+    });
+    if (!made) {
+        if (cells != nullptr) {
+            for (CGridCellBase* cell : *cells) {
+                delete cell;
+            }
+            delete cells;
+            m_rowData.erase(m_rowData.begin() + row);
+        }
+        if (counted) {
+            m_rowCount--;
+        }
         if (heightInserted) {
             m_rowHeights.erase(m_rowHeights.begin() + row);
         }
         return -1;
     }
-    m_rowCount++;
     if (!m_virtualMode) {
-        GridRow* cells = RowAt(row);
-        for (int col = 0; col < m_colCount; col++) {
-            (*cells)[size_t(col)] = CreateCell(row, col);
-        }
         if (CGridCellBase* header = GetCell(row, 0)) {
             header->SetText(heading);
         }

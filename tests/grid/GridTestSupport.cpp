@@ -1,5 +1,7 @@
 #include "GridTestSupport.h"
 
+#include <new>
+
 IMPLEMENT_DYNCREATE(CNumberCell, CGridCell)
 IMPLEMENT_DYNCREATE(CPlainObject, CObject)
 
@@ -39,4 +41,14 @@ BOOL CRecordingParent::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
     notifications.push_back(n);
     *result = answer ? answer(n) : 0;
     return TRUE;
+}
+
+IMPLEMENT_DYNCREATE(CScarceCell, CGridCell)
+
+int CScarceCell::budget = 0;
+
+CScarceCell::CScarceCell() {
+    if (budget-- <= 0) {
+        throw std::bad_alloc();
+    }
 }

@@ -38,3 +38,11 @@ public:
 protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 };
+
+// A cell whose construction fails once the budget of cells is spent, as when memory runs out.
+class CScarceCell : public CGridCell {
+    DECLARE_DYNCREATE(CScarceCell)
+public:
+    CScarceCell();
+    static int budget;
+};
