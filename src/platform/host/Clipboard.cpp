@@ -19,7 +19,7 @@ struct ClipboardState {
 };
 
 ClipboardState& State() {
-    static ClipboardState state;
+    static ClipboardState& state = *new ClipboardState;
     return state;
 }
 

@@ -13,7 +13,8 @@ struct Block {
 // Live blocks by handle, so that a stale or foreign handle is refused rather than followed.
 // Shared by the process: the user-interface thread alone uses the clipboard.
 std::unordered_map<HGLOBAL, std::unique_ptr<Block>>& Blocks() {
-    static std::unordered_map<HGLOBAL, std::unique_ptr<Block>> blocks;
+    static std::unordered_map<HGLOBAL, std::unique_ptr<Block>>& blocks =
+        *new std::unordered_map<HGLOBAL, std::unique_ptr<Block>>;
     return blocks;
 }
 

@@ -5,7 +5,7 @@
 namespace {
 // The one host of the process; the user-interface thread alone touches it.
 std::unique_ptr<Host>& InstalledHost() {
-    static std::unique_ptr<Host> host;
+    static std::unique_ptr<Host>& host = *new std::unique_ptr<Host>;
     return host;
 }
 } // namespace

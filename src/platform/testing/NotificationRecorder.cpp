@@ -7,7 +7,8 @@
 namespace {
 // Recorders by the window they sit on; the user-interface thread alone uses them.
 std::map<HWND, NotificationRecorder*>& Recorders() {
-    static std::map<HWND, NotificationRecorder*> recorders;
+    static std::map<HWND, NotificationRecorder*>& recorders =
+        *new std::map<HWND, NotificationRecorder*>;
     return recorders;
 }
 

@@ -19,7 +19,7 @@ struct FocusState {
 };
 
 FocusState& F() {
-    static FocusState state;
+    static FocusState& state = *new FocusState;
     return state;
 }
 } // namespace
@@ -27,7 +27,7 @@ FocusState& F() {
 namespace wm {
 
 InputState& Input() {
-    static InputState state;
+    static InputState& state = *new InputState;
     return state;
 }
 

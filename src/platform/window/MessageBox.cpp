@@ -9,12 +9,12 @@
 namespace {
 // Shared by the process; message boxes are shown from the user-interface thread only.
 MessageBoxAnswerer& Answerer() {
-    static MessageBoxAnswerer answerer;
+    static MessageBoxAnswerer& answerer = *new MessageBoxAnswerer;
     return answerer;
 }
 
 std::vector<MessageBoxRecord>& Log() {
-    static std::vector<MessageBoxRecord> log;
+    static std::vector<MessageBoxRecord>& log = *new std::vector<MessageBoxRecord>;
     return log;
 }
 

@@ -34,7 +34,7 @@ struct Queues {
 };
 
 Queues& Q() {
-    static Queues queues;
+    static Queues& queues = *new Queues;
     return queues;
 }
 
@@ -215,7 +215,7 @@ DWORD GetTickCount() {
 
 UINT RegisterWindowMessage(LPCSTR name) {
     // Registered messages share one range, one number for each name, for the process's life.
-    static std::map<std::string, UINT> registered;
+    static std::map<std::string, UINT>& registered = *new std::map<std::string, UINT>;
     if (!name || !*name)
         return 0;
     const auto [it, inserted] = registered.emplace(name, UINT(0xC000 + registered.size()));

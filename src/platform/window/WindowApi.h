@@ -116,6 +116,8 @@ constexpr UINT GA_ROOT = 2;
 constexpr UINT GA_ROOTOWNER = 3;
 ORVA_API HWND GetAncestor(HWND hwnd, UINT flags);
 ORVA_API HWND GetWindow(HWND hwnd, UINT relation);
+// The top child of a window; with a null window, the topmost top-level window.
+ORVA_API HWND GetTopWindow(HWND hwnd);
 ORVA_API HWND GetDlgItem(HWND parent, int id);
 ORVA_API int GetDlgCtrlID(HWND hwnd);
 ORVA_API BOOL IsChild(HWND parent, HWND hwnd);

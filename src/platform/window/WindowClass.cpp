@@ -18,7 +18,8 @@ struct NoCaseLess {
 // Registered classes by name; class names compare without regard to case, as the framework's
 // do. Shared by the process: the user-interface thread alone touches it.
 std::map<std::string, WNDCLASS, NoCaseLess>& Classes() {
-    static std::map<std::string, WNDCLASS, NoCaseLess> classes;
+    static std::map<std::string, WNDCLASS, NoCaseLess>& classes =
+        *new std::map<std::string, WNDCLASS, NoCaseLess>;
     return classes;
 }
 } // namespace

@@ -15,7 +15,7 @@ struct Table {
 };
 
 Table& TheTable() {
-    static Table table;
+    static Table& table = *new Table;
     return table;
 }
 } // namespace

@@ -83,6 +83,13 @@ HWND GetWindow(HWND hwnd, UINT relation) {
     }
 }
 
+HWND GetTopWindow(HWND hwnd) {
+    if (hwnd)
+        return GetWindow(hwnd, GW_CHILD);
+    const auto& tops = TopLevelWindows();
+    return tops.empty() ? nullptr : tops.front();
+}
+
 HWND GetDlgItem(HWND parent, int id) {
     const WindowRecord* w = Find(parent);
     if (!w)

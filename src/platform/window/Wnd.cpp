@@ -45,7 +45,7 @@ struct CWndAccess {
 namespace wm {
 
 WndThreadState& ThreadState() {
-    static WndThreadState state;
+    static WndThreadState& state = *new WndThreadState;
     return state;
 }
 
@@ -606,7 +606,7 @@ BOOL AfxRegisterClass(WNDCLASS* wndClass) {
 
 LPCSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor, HBRUSH background, HICON icon) {
     // One class for each combination, named after it as the framework does.
-    static std::map<std::string, std::string> names;
+    static std::map<std::string, std::string>& names = *new std::map<std::string, std::string>;
     char name[96];
     std::snprintf(name, sizeof name, "Afx:%x:%lx:%lx:%lx", classStyle,
                   static_cast<unsigned long>(reinterpret_cast<std::uintptr_t>(cursor)),
