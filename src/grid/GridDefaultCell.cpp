@@ -11,9 +11,13 @@ namespace {
 
 // The system's message font, or a plain 8-point sans-serif face when it gives none.
 LOGFONT MessageFont() {
+    // Systems before version 6 know only the record without the padded border.
+    OSVERSIONINFO version{};
+    version.dwOSVersionInfoSize = sizeof(version);
+    const bool older = GetVersionEx(&version) && version.dwMajorVersion < 6;
     NONCLIENTMETRICS metrics{};
-    metrics.cbSize = sizeof(metrics);
-    if (SystemParametersInfo(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0)) {
+    metrics.cbSize = older ? NONCLIENTMETRICS_V1_SIZE : UINT(sizeof(metrics));
+    if (SystemParametersInfo(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0)) {
         return metrics.lfMessageFont;
     }
     LOGFONT font{};
