@@ -132,3 +132,16 @@ TEST_F(GridWindowTest, SystemColourChangesReachOnlyColoursStillAtTheSystemValue)
     EXPECT_EQ(grid.GetTextColor(), RGB(5, 5, 5));
     ::RestoreDefaultSysColors();
 }
+
+TEST_F(GridWindowTest, InsertedColumnsAreAsWideAsTheirHeadings) {
+    const int shortColumn = grid.InsertColumn("x");
+    const int longColumn = grid.InsertColumn("a much longer heading");
+    EXPECT_GT(grid.GetColumnWidth(longColumn), grid.GetColumnWidth(shortColumn));
+    // Four margins around the text: the margin is the width of a space.
+    EXPECT_GT(grid.GetColumnWidth(shortColumn), 4 * grid.GetDefCellMargin());
+
+    // Without a window there is nothing to measure with: the default cell's width serves.
+    CGridCtrl headless(2, 2);
+    const int column = headless.InsertColumn("a much longer heading");
+    EXPECT_EQ(headless.GetColumnWidth(column), headless.GetDefCellWidth());
+}
