@@ -72,7 +72,6 @@ ORVA_API BOOL CloseHandle(HANDLE handle);
 // The error of the last failed call of this layer, as an errno value (ENOENT is 2, as
 // ERROR_FILE_NOT_FOUND).
 ORVA_API DWORD GetLastError();
-ORVA_API void SetLastError(DWORD error);
 
 ORVA_API int _getpid();
 

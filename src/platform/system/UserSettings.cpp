@@ -1,5 +1,7 @@
 #include "platform/system/UserSettings.h"
 
+#include "platform/system/LocalePictures.h"
+
 #include <cctype>
 #include <clocale>
 #include <cstdlib>
@@ -28,111 +30,6 @@ bool IsNeutralLocale(const std::string& name) {
     return name.empty() || name == "C" || name == "POSIX" || name.rfind("C.", 0) == 0;
 }
 
-// Turns a strftime picture into the system's date and time picture ("%m/%d/%Y" ->
-// "MM/dd/yyyy"). Conversions without a counterpart are dropped.
-std::string WindowsPicture(const char* picture) {
-    std::string result;
-    for (const char* p = picture; *p != '\0'; ++p) {
-        if (*p != '%') {
-            if (*p == '\'' || std::isalpha(static_cast<unsigned char>(*p)))
-                result += '\'', result += *p, result += '\'';
-            else
-                result += *p;
-            continue;
-        }
-        ++p;
-        while (*p == 'E' || *p == 'O' || *p == '-' || *p == '_' || *p == '0')
-            ++p;
-        switch (*p) {
-        case 'd':
-            result += "dd";
-            break;
-        case 'e':
-            result += "d";
-            break;
-        case 'm':
-            result += "MM";
-            break;
-        case 'b':
-        case 'h':
-            result += "MMM";
-            break;
-        case 'B':
-            result += "MMMM";
-            break;
-        case 'a':
-            result += "ddd";
-            break;
-        case 'A':
-            result += "dddd";
-            break;
-        case 'y':
-            result += "yy";
-            break;
-        case 'Y':
-            result += "yyyy";
-            break;
-        case 'H':
-            result += "HH";
-            break;
-        case 'k':
-            result += "H";
-            break;
-        case 'I':
-            result += "hh";
-            break;
-        case 'l':
-            result += "h";
-            break;
-        case 'M':
-            result += "mm";
-            break;
-        case 'S':
-            result += "ss";
-            break;
-        case 'p':
-        case 'P':
-            result += "tt";
-            break;
-        case 'D':
-            result += "MM/dd/yy";
-            break;
-        case 'F':
-            result += "yyyy-MM-dd";
-            break;
-        case 'T':
-            result += "HH:mm:ss";
-            break;
-        case 'R':
-            result += "HH:mm";
-            break;
-        case 'r':
-            result += "hh:mm:ss tt";
-            break;
-        case '%':
-            result += '%';
-            break;
-        case '\0':
-            return result;
-        default:
-            break;
-        }
-    }
-    return result;
-}
-
-// The short time is the long one without its seconds.
-std::string WithoutSeconds(std::string picture) {
-    const auto seconds = picture.find("ss");
-    if (seconds == std::string::npos)
-        return picture;
-    auto first = seconds;
-    while (first > 0 && !std::isalpha(static_cast<unsigned char>(picture[first - 1])))
-        --first;
-    picture.erase(first, seconds + 2 - first);
-    return picture;
-}
-
 // iDate: 0 month first, 1 day first, 2 year first.
 std::string DateOrder(const std::string& picture) {
     const auto day = picture.find('d'), month = picture.find('M'), year = picture.find('y');
@@ -148,15 +45,15 @@ void ReadTimeLocale(ValueMap& international) {
     locale_t locale = newlocale(LC_TIME_MASK, name.c_str(), locale_t(0));
     if (locale == locale_t(0))
         return;
-    const std::string date = WindowsPicture(nl_langinfo_l(D_FMT, locale));
-    const std::string time = WindowsPicture(nl_langinfo_l(T_FMT, locale));
+    const std::string date = PictureFromStrftime(nl_langinfo_l(D_FMT, locale));
+    const std::string time = PictureFromStrftime(nl_langinfo_l(T_FMT, locale));
     if (!date.empty()) {
         international["sShortDate"] = date;
         international["iDate"] = DateOrder(date);
     }
     if (!time.empty()) {
         international["sTimeFormat"] = time;
-        international["sShortTime"] = WithoutSeconds(time);
+        international["sShortTime"] = ShortTimePicture(time);
     }
     freelocale(locale);
 }

@@ -1,3 +1,4 @@
+#include "platform/system/LocalePictures.h"
 #include "platform/system/SysColors.h"
 #include "platform/system/SystemMetrics.h"
 #include "platform/system/SystemParameters.h"
@@ -34,17 +35,6 @@ TEST(SysColors, ChangedEntriesComeBackWithTheScheme) {
     EXPECT_EQ(GetSysColor(COLOR_WINDOW), RGB(255, 255, 255));
     EXPECT_EQ(GetSysColor(COLOR_HIGHLIGHT), RGB(10, 36, 106));
     EXPECT_FALSE(SetSysColors(1, nullptr, values));
-}
-
-TEST(SystemMetrics, ScrollBarsEdgesAndUnknownIndexes) {
-    EXPECT_EQ(GetSystemMetrics(SM_CXVSCROLL), 17);
-    EXPECT_EQ(GetSystemMetrics(SM_CYHSCROLL), 17);
-    EXPECT_EQ(GetSystemMetrics(SM_CXEDGE), 2);
-    EXPECT_EQ(GetSystemMetrics(SM_CXBORDER), 1);
-    EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), 1920);
-    EXPECT_EQ(GetSystemMetrics(SM_CYSCREEN), 1080);
-    EXPECT_EQ(GetSystemMetrics(-5), 0);
-    EXPECT_EQ(GetSystemMetrics(1000), 0);
 }
 
 TEST(SystemParameters, NonClientMetricsInBothRecordSizes) {
@@ -154,6 +144,23 @@ TEST(UserSettings, RegistryCallsReportSizesAndMissingKeys) {
     EXPECT_EQ(small[0], 'x');
     RegCloseKey(key);
     ResetUserSettings();
+}
+
+TEST(LocalePictures, StrftimePicturesBecomeSystemPictures) {
+    EXPECT_EQ(PictureFromStrftime("%m/%d/%Y"), "MM/dd/yyyy");
+    EXPECT_EQ(PictureFromStrftime("%d.%m.%y"), "dd.MM.yy");
+    EXPECT_EQ(PictureFromStrftime("%e %B %Ey"), "d MMMM yy");
+    EXPECT_EQ(PictureFromStrftime("%F"), "yyyy-MM-dd");
+    EXPECT_EQ(PictureFromStrftime("%r"), "hh:mm:ss tt");
+    EXPECT_EQ(PictureFromStrftime("%H h %M"), "HH 'h' mm");
+    EXPECT_EQ(PictureFromStrftime("%H'%M:%S %Z%%"), "HH''mm:ss %");
+    EXPECT_EQ(PictureFromStrftime("%"), "");
+}
+
+TEST(LocalePictures, ShortTimeDropsTheSecondsAndTheirSeparator) {
+    EXPECT_EQ(ShortTimePicture("HH:mm:ss"), "HH:mm");
+    EXPECT_EQ(ShortTimePicture("h:mm:ss tt"), "h:mm tt");
+    EXPECT_EQ(ShortTimePicture("HH.mm"), "HH.mm");
 }
 
 } // namespace
