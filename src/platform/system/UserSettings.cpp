@@ -2,8 +2,6 @@
 
 #include "platform/system/LocalePictures.h"
 
-#include <cctype>
-#include <clocale>
 #include <cstdlib>
 #include <cstring>
 #include <langinfo.h>
