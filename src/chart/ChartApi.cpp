@@ -39,6 +39,7 @@ struct ChartDrag {
     bool onDataPoint = false;
 };
 ChartDrag g_drag;
+std::pair<HWND, ChartEngine*> g_lastChart{nullptr, nullptr};
 
 void Notify(HWND chart, unsigned short code) {
     HWND parent = GetParent(chart);
@@ -140,6 +141,8 @@ LRESULT ChartWndProc(HWND chart, UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NCDESTROY:
         if (g_drag.chart == chart)
             g_drag = {};
+        if (g_lastChart.first == chart)
+            g_lastChart = {nullptr, nullptr};
         charts.erase(it);
         return 0;
     default:
@@ -198,8 +201,14 @@ std::string g_lastPrintFile;
 } // namespace
 
 ChartEngine* ChartEngineOf(HWND chart) {
+    // Pushing data calls this once a value: the chart of the last call answers at once.
+    if (chart && chart == g_lastChart.first)
+        return g_lastChart.second;
     auto it = Charts().find(chart);
-    return it != Charts().end() ? it->second.get() : nullptr;
+    if (it == Charts().end())
+        return nullptr;
+    g_lastChart = {chart, it->second.get()};
+    return it->second.get();
 }
 
 int ChartSetArray(HWND chart, int property, const void* values, int count) {

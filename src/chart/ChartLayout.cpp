@@ -24,9 +24,13 @@ struct Extent {
     void Add(double v) {
         if (IsMissing(v) || !std::isfinite(v))
             return;
-        low = any ? std::min(low, v) : v;
-        high = any ? std::max(high, v) : v;
-        any = true;
+        if (!any) {
+            low = high = v;
+            any = true;
+        } else {
+            low = std::min(low, v);
+            high = std::max(high, v);
+        }
     }
 };
 
@@ -150,15 +154,18 @@ ChartFrame LayoutChart(const Canvas& measure, const ChartProperties& p, int widt
 
     // Ranges.
     Extent xData, yData;
-    for (int s = 0; s < series.curves; ++s)
-        for (int pt = 0; pt < series.points; ++pt) {
-            const double y = series.Y(s, pt);
-            if (IsMissing(y))
-                continue;
-            yData.Add(y);
-            if (series.x)
-                xData.Add(series.X(s, pt));
-        }
+    const size_t count = size_t(series.curves) * size_t(series.points);
+    for (size_t i = 0; i < count; ++i) {
+        if (IsMissing(series.y[i]))
+            continue;
+        yData.Add(series.y[i]);
+        if (series.x)
+            xData.Add(series.x[i]);
+    }
+    if (xData.any) {
+        xData.low += series.xOffset;
+        xData.high += series.xOffset;
+    }
     if (f.bars) {
         yData.Add(0);
         xData = {-0.5, series.points - 0.5, true};

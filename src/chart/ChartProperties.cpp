@@ -105,9 +105,13 @@ PropertyKind KindOfProperty(int number) {
 }
 
 PropertyValue& ChartProperties::Slot(int number) {
+    CacheEntry& entry = m_cache[unsigned(number) % 8];
+    if (entry.value && entry.number == number)
+        return *entry.value;
     auto [it, inserted] = m_values.try_emplace(number);
     if (inserted)
         it->second.kind = KindOfProperty(number);
+    entry = {number, &it->second};
     return it->second;
 }
 

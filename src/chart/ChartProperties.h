@@ -34,6 +34,14 @@ struct PropertyValue {
 
 class ORVA_API ChartProperties {
 public:
+    ChartProperties() = default;
+    ChartProperties(const ChartProperties& other) : m_values(other.m_values) {}
+    ChartProperties& operator=(const ChartProperties& other) {
+        m_values = other.m_values;
+        ClearCache();
+        return *this;
+    }
+
     // The interface's operations. Results: 1 or a size on success, 0 or -1 on failure.
     int SetInt(int number, int value);
     int GetInt(int number) const;
@@ -56,12 +64,29 @@ public:
     const std::vector<std::string>& Strings(int number) const;
     void SetRecord(int number, const std::vector<std::int32_t>& values);
     void SetDoubles(int number, std::vector<double> values);
-    void Remove(int number) { m_values.erase(number); }
+    void Remove(int number) {
+        ClearCache();
+        m_values.erase(number);
+    }
 
     const std::map<int, PropertyValue>& All() const { return m_values; }
-    void Replace(std::map<int, PropertyValue> values) { m_values = std::move(values); }
+    void Replace(std::map<int, PropertyValue> values) {
+        ClearCache();
+        m_values = std::move(values);
+    }
 
 private:
     PropertyValue& Slot(int number);
     std::map<int, PropertyValue> m_values;
+    // Recently written properties by number modulo eight: a push writes the same few arrays a
+    // million times. Map nodes stay put, so only removal clears it.
+    struct CacheEntry {
+        int number = 0;
+        PropertyValue* value = nullptr;
+    };
+    void ClearCache() {
+        for (CacheEntry& entry : m_cache)
+            entry = {};
+    }
+    CacheEntry m_cache[8];
 };

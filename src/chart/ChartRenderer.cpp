@@ -72,69 +72,96 @@ void DrawSymbol(Canvas& canvas, int symbol, double x, double y, COLORREF colour)
 }
 
 // Strokes one curve, broken at missing values. Where more points than pixel columns fall on a
-// monotonic X, each column becomes a bar from its lowest to its highest point, and the line
-// joins one column's last point to the next one's first: the picture is the same and cairo
-// strokes a few thousand points instead of a million.
+// monotonic X, each column becomes a bar of the line's width from its lowest to its highest
+// point, stretched to the last point of the column before it, which joins the two as the line
+// would. The picture is the same, and cairo fills a thousand rectangles instead of stroking a
+// million-point zigzag. Columns further apart are joined by segments.
 void DrawCurveLine(Canvas& canvas, const ChartFrame& f, const ChartSeries& series, int s,
                    COLORREF colour, double width, const std::vector<double>& dashes) {
-    bool monotonic = true;
-    for (int p = 1; p < series.points && monotonic; ++p)
-        monotonic = !(series.X(s, p) < series.X(s, p - 1));
-    const bool decimate = monotonic && dashes.empty() && series.points > 2 * f.plot.Width();
-    std::vector<double> path;
-    std::vector<double> bars;
+    const size_t first = size_t(s) * size_t(series.points);
+    const double* ys = series.y + first;
+    const double* xs = series.x ? series.x + first : nullptr;
+    const double xScale = f.plot.Width() / (f.xMax - f.xMin);
+    const double yScale = f.plot.Height() / (f.yMax - f.yMin);
+    const double xShift = f.plot.left + (series.xOffset - f.xMin) * xScale;
+    const double yShift = f.plot.bottom + f.yMin * yScale;
+    std::vector<double> path, bars, joins;
     const auto flush = [&] {
         if (path.size() >= 4)
             canvas.Polyline(path.data(), path.size() / 2, colour, width, dashes);
         path.clear();
     };
-    const auto add = [&](double px, double py) {
-        path.push_back(px);
-        path.push_back(py);
-    };
-    bool open = false;
-    long column = 0;
-    double columnX = 0, lastY = 0, lowY = 0, highY = 0;
-    const auto closeColumn = [&] {
-        if (!open)
-            return;
-        if (highY - lowY > 0.5)
+
+    // One pass; a decimating pass gives up, and the curve is drawn in full, as soon as X goes
+    // backwards.
+    const auto draw = [&](bool decimate) {
+        bool open = false;
+        bool joined = false; // a previous column to join to
+        long column = 0;
+        double columnX = 0, lastY = 0, lowY = 0, highY = 0, previousX = 0, previousY = 0;
+        double previousData = -1e308;
+        const auto closeColumn = [&] {
+            if (!open)
+                return;
             bars.insert(bars.end(),
                         {columnX - width / 2, lowY - width / 2, width, highY - lowY + width});
-        add(columnX, lastY);
-        open = false;
-    };
-    const double left = f.plot.left, scale = f.plot.Width() / (f.xMax - f.xMin);
-    for (int p = 0; p < series.points; ++p) {
-        const double y = series.Y(s, p);
-        const double x = series.X(s, p);
-        if (IsMissing(y) || IsMissing(x) || !std::isfinite(x) || !std::isfinite(y)) {
-            closeColumn();
-            flush();
-            continue;
-        }
-        const double px = left + (x - f.xMin) * scale;
-        const double py = std::clamp(f.YToPixel(y), -1e5, 1e5);
-        if (!decimate) {
-            add(std::clamp(px, -1e5, 1e5), py);
-            continue;
-        }
-        const long c = long(px);
-        if (!open || c != column) {
+            previousX = columnX;
+            previousY = lastY;
+            joined = true;
+            open = false;
+        };
+        for (int p = 0; p < series.points; ++p) {
+            const double y = ys[p];
+            const double x = xs ? xs[p] : double(p);
+            const double px = std::clamp(xShift + x * xScale, -1e5, 1e5);
+            const double py = std::clamp(yShift - y * yScale, -1e5, 1e5);
+            if (IsMissing(y) || IsMissing(x) || px != px || py != py) {
+                closeColumn();
+                joined = false;
+                flush();
+                continue;
+            }
+            if (!decimate) {
+                path.push_back(px);
+                path.push_back(py);
+                continue;
+            }
+            if (x < previousData)
+                return false;
+            previousData = x;
+            const long c = long(px);
+            if (open && c == column) {
+                lastY = py;
+                lowY = std::min(lowY, py);
+                highY = std::max(highY, py);
+                continue;
+            }
+            const long previousColumn = column;
             closeColumn();
             column = c;
             columnX = px;
-            add(px, py);
             lowY = highY = lastY = py;
+            if (joined && c - previousColumn <= 1) {
+                lowY = std::min(lowY, previousY);
+                highY = std::max(highY, previousY);
+            } else if (joined) {
+                joins.insert(joins.end(), {previousX, previousY, px, py});
+            }
             open = true;
-            continue;
         }
-        lastY = py;
-        lowY = std::min(lowY, py);
-        highY = std::max(highY, py);
+        closeColumn();
+        flush();
+        return true;
+    };
+    const bool dense = dashes.empty() && series.points > 2 * f.plot.Width();
+    if (!dense || !draw(true)) {
+        path.clear();
+        bars.clear();
+        joins.clear();
+        draw(false);
     }
-    closeColumn();
-    flush();
+    if (!joins.empty())
+        canvas.StrokeSegments(joins.data(), joins.size() / 4, colour, width);
     if (!bars.empty())
         canvas.FillRects(bars.data(), bars.size() / 4, colour);
 }
@@ -334,7 +361,10 @@ void DrawLegend(Canvas& canvas, const ChartFrame& f, const ChartProperties& p) {
 void DrawChart(Canvas& canvas, const ChartProperties& p, const ChartFrame& f) {
     canvas.Clear(RGB(255, 255, 255));
     DrawAxes(canvas, f, p);
-    canvas.PushClip(f.plot.left, f.plot.top, f.plot.Width(), f.plot.Height());
+    // Whole pixels: cairo clips to an aligned rectangle without a mask.
+    canvas.PushClip(std::floor(f.plot.left), std::floor(f.plot.top),
+                    std::ceil(f.plot.right) - std::floor(f.plot.left),
+                    std::ceil(f.plot.bottom) - std::floor(f.plot.top));
     DrawCurves(canvas, f, p);
     DrawRubberLine(canvas, f, p);
     canvas.PopClip();

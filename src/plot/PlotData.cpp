@@ -3,18 +3,17 @@
 #include "chart/ChartApi.h"
 
 #include <cstring>
-#include <memory>
 
 namespace {
 
 constexpr double kMissing = -9999.0;
 constexpr double kNoDateTime = -9999999.0;
 
-// The chart copies the text; the buffer is ours and goes at once.
-void SetTextElement(HWND chart, int property, int index, const zvk::CStdStr<char>& text) {
-    auto buffer = std::make_unique<char[]>(text.size() + 1);
-    std::memcpy(buffer.get(), text.c_str(), text.size() + 1);
-    ChartSetElement(chart, property, index, buffer.get());
+// The chart copies the text out of our buffer, so one buffer serves a whole push.
+void SetTextElement(HWND chart, int property, int index, const zvk::CStdStr<char>& text,
+                    std::vector<char>& buffer) {
+    buffer.assign(text.c_str(), text.c_str() + text.size() + 1);
+    ChartSetElement(chart, property, index, buffer.data());
 }
 
 } // namespace
@@ -110,6 +109,7 @@ void EPlotData::UpdatePlotFromData(HWND chart) {
         const zvk::CStdStr<char> noText;
         // The count is the curve's index: s missing values each time.
         const std::vector<double> missingRow(size_t(m_numSets), kMissing);
+        std::vector<char> buffer;
         int k = 0;
         for (int s = 0; s < m_numSets; ++s) {
             ChartSetArray(chart, 3656, missingRow.data(), s);
@@ -120,12 +120,13 @@ void EPlotData::UpdatePlotFromData(HWND chart) {
                 ChartSetElement(chart, 2190, s, &colour);
             }
             SetTextElement(chart, 2125, s,
-                           size_t(s) < m_curveNames.size() ? m_curveNames[size_t(s)] : noText);
+                           size_t(s) < m_curveNames.size() ? m_curveNames[size_t(s)] : noText,
+                           buffer);
             for (int p = 0; p < m_numPoints; ++p) {
                 if (!m_xValues.empty())
                     ChartSetElement(chart, 3013, k, &at(m_xValues, s, p, missing));
                 if (size_t(s) < m_pointLabels.size())
-                    SetTextElement(chart, 2130, k, at(m_pointLabels, s, p, noText));
+                    SetTextElement(chart, 2130, k, at(m_pointLabels, s, p, noText), buffer);
                 if (!m_yValues.empty())
                     ChartSetElement(chart, 3014, k, &at(m_yValues, s, p, missing));
                 ++k;

@@ -176,6 +176,21 @@ void Canvas::Line(double x0, double y0, double x1, double y1, COLORREF colour, d
     Polyline(xy, 2, colour, lineWidth, dashes);
 }
 
+void Canvas::StrokeSegments(const double* xyxy, size_t count, COLORREF colour, double lineWidth) {
+    cairo_t* cr = m_impl->cr;
+    cairo_new_path(cr);
+    for (size_t i = 0; i < count; ++i) {
+        cairo_move_to(cr, xyxy[4 * i], xyxy[4 * i + 1]);
+        cairo_line_to(cr, xyxy[4 * i + 2], xyxy[4 * i + 3]);
+    }
+    SetColour(cr, colour);
+    cairo_set_line_width(cr, lineWidth);
+    cairo_set_dash(cr, nullptr, 0, 0);
+    cairo_set_line_cap(cr, CAIRO_LINE_CAP_ROUND);
+    cairo_stroke(cr);
+    cairo_set_line_cap(cr, CAIRO_LINE_CAP_BUTT);
+}
+
 void Canvas::FillRects(const double* xywh, size_t count, COLORREF colour) {
     cairo_t* cr = m_impl->cr;
     cairo_new_path(cr);

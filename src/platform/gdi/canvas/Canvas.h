@@ -50,6 +50,8 @@ public:
                   const std::vector<double>& dashes = {});
     void Line(double x0, double y0, double x1, double y1, COLORREF colour, double lineWidth,
               const std::vector<double>& dashes = {});
+    // Separate segments (x0, y0, x1, y1, ...) stroked as one shape, without joins.
+    void StrokeSegments(const double* xyxy, size_t count, COLORREF colour, double lineWidth);
     // Many rectangles (x, y, width, height, ...) filled as one shape.
     void FillRects(const double* xywh, size_t count, COLORREF colour);
     void FillPolygon(const double* xy, size_t pointCount, COLORREF colour);
