@@ -48,9 +48,11 @@ EdgeColors OuterColors(UINT edge, UINT flags) {
         return {GetSysColor(COLOR_WINDOWFRAME), GetSysColor(COLOR_WINDOWFRAME)};
     if (flags & BF_FLAT)
         return {GetSysColor(COLOR_3DSHADOW), GetSysColor(COLOR_3DSHADOW)};
+    // Soft edges swap the lighter and darker shades of the outer and inner borders.
+    bool soft = (flags & BF_SOFT) != 0;
     if (edge & BDR_RAISEDOUTER)
-        return {GetSysColor(COLOR_3DLIGHT), GetSysColor(COLOR_3DDKSHADOW)};
-    return {GetSysColor(COLOR_3DSHADOW), GetSysColor(COLOR_3DHILIGHT)};
+        return {GetSysColor(soft ? COLOR_3DHILIGHT : COLOR_3DLIGHT), GetSysColor(COLOR_3DDKSHADOW)};
+    return {GetSysColor(soft ? COLOR_3DDKSHADOW : COLOR_3DSHADOW), GetSysColor(COLOR_3DHILIGHT)};
 }
 
 EdgeColors InnerColors(UINT edge, UINT flags) {
@@ -58,15 +60,16 @@ EdgeColors InnerColors(UINT edge, UINT flags) {
         return {GetSysColor(COLOR_WINDOW), GetSysColor(COLOR_WINDOW)};
     if (flags & BF_FLAT)
         return {GetSysColor(COLOR_3DFACE), GetSysColor(COLOR_3DFACE)};
+    bool soft = (flags & BF_SOFT) != 0;
     if (edge & BDR_RAISEDINNER)
-        return {GetSysColor(COLOR_3DHILIGHT), GetSysColor(COLOR_3DSHADOW)};
-    return {GetSysColor(COLOR_3DDKSHADOW), GetSysColor(COLOR_3DLIGHT)};
+        return {GetSysColor(soft ? COLOR_3DLIGHT : COLOR_3DHILIGHT), GetSysColor(COLOR_3DSHADOW)};
+    return {GetSysColor(soft ? COLOR_3DSHADOW : COLOR_3DDKSHADOW), GetSysColor(COLOR_3DLIGHT)};
 }
 
-// A small triangle pointing `direction` (0 up, 1 down, 2 left, 3 right), centred in `r`.
-void Arrow(CDC* dc, const RECT& r, UINT direction, COLORREF color) {
+// A small triangle pointing `direction` (0 up, 1 down, 2 left, 3 right), centred in `r`, with
+// `size` rows: 4 in a button of 16 pixels.
+void Arrow(CDC* dc, const RECT& r, UINT direction, int size, COLORREF color) {
     int w = r.right - r.left, h = r.bottom - r.top;
-    int size = std::max(2, (std::min(w, h) + 1) / 4); // rows of the triangle
     int cx = r.left + w / 2, cy = r.top + h / 2;
     for (int i = 0; i < size; ++i) {
         int half = (direction == 0 || direction == 2) ? i : size - 1 - i;
@@ -115,12 +118,19 @@ BOOL CDC::DrawFrameControl(LPRECT rect, UINT type, UINT state) {
     switch (type) {
     case DFC_BUTTON: {
         if (state & DFCS_BUTTONPUSH) {
-            if (flat)
+            if (flat) {
                 DrawEdge(&r, EDGE_RAISED, BF_RECT | BF_ADJUST | BF_MIDDLE | flatFlags);
-            else if (pushed || (state & DFCS_CHECKED))
-                DrawEdge(&r, EDGE_SUNKEN, BF_RECT | BF_ADJUST | BF_MIDDLE);
-            else
-                DrawEdge(&r, EDGE_RAISED, BF_RECT | BF_ADJUST | BF_MIDDLE);
+            } else if (pushed) {
+                // Pressed: a dark frame around a shadow frame, flat inside.
+                DrawEdge(&r, BDR_OUTER, BF_RECT | BF_ADJUST | BF_MONO);
+                Fill(this, r.left, r.top, r.right, r.bottom, GetSysColor(COLOR_3DSHADOW));
+                r.left += 1, r.top += 1, r.right -= 1, r.bottom -= 1;
+                Fill(this, r.left, r.top, r.right, r.bottom, GetSysColor(COLOR_3DFACE));
+            } else if (state & DFCS_CHECKED) {
+                DrawEdge(&r, EDGE_SUNKEN, BF_RECT | BF_ADJUST | BF_MIDDLE | BF_SOFT);
+            } else {
+                DrawEdge(&r, EDGE_RAISED, BF_RECT | BF_ADJUST | BF_MIDDLE | BF_SOFT);
+            }
             return TRUE;
         }
         if (state & DFCS_BUTTONRADIO) {
@@ -153,11 +163,12 @@ BOOL CDC::DrawFrameControl(LPRECT rect, UINT type, UINT state) {
         return TRUE;
     }
     case DFC_SCROLL: {
+        int arrowRows = std::max(2, (std::min(r.right - r.left, r.bottom - r.top) + 1) / 4);
         if (flat || pushed)
             DrawEdge(&r, EDGE_RAISED,
                      BF_RECT | BF_ADJUST | BF_MIDDLE | (flat ? flatFlags : BF_FLAT));
         else
-            DrawEdge(&r, EDGE_RAISED, BF_RECT | BF_ADJUST | BF_MIDDLE);
+            DrawEdge(&r, EDGE_RAISED, BF_RECT | BF_ADJUST | BF_MIDDLE | BF_SOFT);
         if (pushed)
             OffsetRect(&r, 1, 1);
         UINT kind = state & 0xFF;
@@ -168,10 +179,10 @@ BOOL CDC::DrawFrameControl(LPRECT rect, UINT type, UINT state) {
             // The raised, greyed look: a light copy one pixel down and right under the shadow.
             RECT light = r;
             OffsetRect(&light, 1, 1);
-            Arrow(this, light, direction, GetSysColor(COLOR_3DHILIGHT));
-            Arrow(this, r, direction, GetSysColor(COLOR_3DSHADOW));
+            Arrow(this, light, direction, arrowRows, GetSysColor(COLOR_3DHILIGHT));
+            Arrow(this, r, direction, arrowRows, GetSysColor(COLOR_3DSHADOW));
         } else {
-            Arrow(this, r, direction, GetSysColor(COLOR_BTNTEXT));
+            Arrow(this, r, direction, arrowRows, GetSysColor(COLOR_BTNTEXT));
         }
         return TRUE;
     }
