@@ -1,5 +1,6 @@
 #include "chart/ChartLayout.h"
 
+#include "chart/ChartFit.h"
 #include "chart/ChartPropertyIds.h"
 #include "platform/gdi/canvas/Canvas.h"
 
@@ -165,6 +166,17 @@ ChartFrame LayoutChart(const Canvas& measure, const ChartProperties& p, int widt
     if (xData.any) {
         xData.low += series.xOffset;
         xData.high += series.xOffset;
+    }
+    // A best-fit curve may run beyond its points; the axis shows all of it.
+    const auto& fits = p.Doubles(FitCoefficients);
+    if ((method == MethodBestFitLine || method == MethodBestFitCurve) && xData.any &&
+        fits.size() >= size_t(series.curves) * 10) {
+        for (int s = 0; s < series.curves; ++s) {
+            const std::vector<double> c(fits.begin() + s * 10, fits.begin() + s * 10 + 10);
+            for (int i = 0; i <= 50; ++i)
+                yData.Add(EvaluatePolynomial(c, xData.low + (xData.high - xData.low) * i / 50 -
+                                                    series.xOffset));
+        }
     }
     if (f.bars) {
         yData.Add(0);

@@ -29,13 +29,17 @@ void SetData(HWND chart, int curves, int points, const std::vector<double>& xs,
     ChartSetArray(chart, 3014, ys.data(), int(ys.size()));
 }
 
+// Writes the chart's PNG, and records its window (a top-level chart) as the gallery's picture.
 void Save(GalleryContext& context, HWND chart, const char* name) {
     int size[] = {900, 560};
-    const std::string path = context.OutputPath(name);
+    const std::string fileName = std::string(name) + ".png";
+    const std::string path = context.OutputPath(fileName.c_str());
     ChartRedraw(chart);
     const int ok = ChartCopyBitmapToFile(chart, size, path.c_str());
-    context.Print("%s: %s (%d curves of %d points, method %d)", name, ok ? "written" : "FAILED",
-                  ChartGetInt(chart, 2115), ChartGetInt(chart, 2120), ChartGetInt(chart, 3090));
+    context.Print("%s: %s (%d curves of %d points, method %d)", fileName.c_str(),
+                  ok ? "written" : "FAILED", ChartGetInt(chart, 2115), ChartGetInt(chart, 2120),
+                  ChartGetInt(chart, 3090));
+    context.Capture(chart, (std::string(name) + "-window").c_str());
 }
 
 void LineChart(GalleryContext& context, HWND chart) {
@@ -61,7 +65,7 @@ void LineChart(GalleryContext& context, HWND chart) {
     ChartSetArray(chart, 3270, symbols, 3);
     ChartSetInt(chart, 3090, 17);
     ChartSetInt(chart, 3082, 1);
-    Save(context, chart, "chart-line.png");
+    Save(context, chart, "chart-line");
 }
 
 void BarChart(GalleryContext& context, HWND chart) {
@@ -80,7 +84,7 @@ void BarChart(GalleryContext& context, HWND chart) {
     ChartSetArray(chart, 2190, colours, 2);
     ChartSetInt(chart, 3090, 1);
     ChartSetInt(chart, 3082, 3);
-    Save(context, chart, "chart-bar.png");
+    Save(context, chart, "chart-bar");
 }
 
 void ScatterChart(GalleryContext& context, HWND chart) {
@@ -100,7 +104,7 @@ void ScatterChart(GalleryContext& context, HWND chart) {
     ChartSetArray(chart, 3270, &symbol, 1);
     ChartSetInt(chart, 3090, 13);
     ChartSetInt(chart, 3082, 0);
-    Save(context, chart, "chart-scatter.png");
+    Save(context, chart, "chart-scatter");
     double c[3] = {};
     for (int i = 0; i < 3; ++i)
         ChartGetElement(chart, 3058, i, &c[i]);
@@ -130,7 +134,7 @@ void DateChart(GalleryContext& context, HWND chart) {
     ChartSetInt(chart, 3097, 8);
     const int legendEnd = -1;
     ChartSetArray(chart, 2624, &legendEnd, 1);
-    Save(context, chart, "chart-datetime.png");
+    Save(context, chart, "chart-datetime");
 }
 
 void BuildChartPage(GalleryContext& context) {
