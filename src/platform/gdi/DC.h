@@ -170,5 +170,20 @@ ORVA_API int DrawText(HDC dc, LPCTSTR text, int count, LPRECT rect, UINT format)
 ORVA_API BOOL BitBlt(HDC dc, int x, int y, int width, int height, HDC source, int xSrc, int ySrc,
                      DWORD rop);
 ORVA_API int GetDeviceCaps(HDC dc, int index);
+ORVA_API BOOL GetTextExtentPoint32(HDC dc, LPCTSTR text, int count, SIZE* size);
+ORVA_API BOOL GetTextMetrics(HDC dc, TEXTMETRIC* metrics);
+ORVA_API BOOL TextOut(HDC dc, int x, int y, LPCTSTR text, int count);
+ORVA_API BOOL PatBlt(HDC dc, int x, int y, int width, int height, DWORD rop);
+ORVA_API BOOL InvertRect(HDC dc, const RECT* rect);
+ORVA_API BOOL DrawFocusRect(HDC dc, const RECT* rect);
+ORVA_API BOOL DrawEdge(HDC dc, LPRECT rect, UINT edge, UINT flags);
+ORVA_API BOOL DrawFrameControl(HDC dc, LPRECT rect, UINT type, UINT state);
+ORVA_API BOOL MoveToEx(HDC dc, int x, int y, LPPOINT previous);
+ORVA_API BOOL LineTo(HDC dc, int x, int y);
+ORVA_API int SetROP2(HDC dc, int mode);
+ORVA_API int GetClipBox(HDC dc, LPRECT rect);
+ORVA_API int IntersectClipRect(HDC dc, int left, int top, int right, int bottom);
+ORVA_API int ExcludeClipRect(HDC dc, int left, int top, int right, int bottom);
+ORVA_API int SelectClipRgn(HDC dc, HRGN region);
 // The surface that a context draws on and its device origin there (for tests and the hosts).
 ORVA_API Surface* GdiSurfaceOf(HDC dc, POINT* origin = nullptr);

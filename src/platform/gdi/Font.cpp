@@ -63,15 +63,57 @@ FontObject::~FontObject() {
         pango_font_description_free(description);
 }
 
+namespace {
+
+// The parts of the metrics that come from the LOGFONT rather than from the glyphs.
+void ApplyStyle(FontObject* font) {
+    TEXTMETRIC& tm = font->metrics;
+    tm.tmWeight = font->log.lfWeight == FW_DONTCARE ? FW_NORMAL : font->log.lfWeight;
+    tm.tmItalic = font->log.lfItalic;
+    tm.tmUnderlined = font->log.lfUnderline;
+    tm.tmStruckOut = font->log.lfStrikeOut;
+    tm.tmPitchAndFamily = font->log.lfPitchAndFamily;
+    tm.tmCharSet = font->log.lfCharSet;
+    font->metricsKnown = true;
+}
+
+} // namespace
+
 FontObject* CurrentFont(DcState* dc) {
     if (FontObject* font = dc->attributes.font.as<FontObject>())
         return font;
     return static_cast<FontObject*>(StockObject(SYSTEM_FONT));
 }
 
+namespace {
+
+// Metrics by font, so that a font made anew for each paint does not measure again. Keyed by the
+// Pango description, which holds everything that changes the metrics. Single-threaded.
+struct MeasuredFont {
+    TEXTMETRIC metrics;
+    int baseline;
+};
+
+std::map<std::string, MeasuredFont>& MeasuredFonts() {
+    static std::map<std::string, MeasuredFont> fonts;
+    return fonts;
+}
+
+} // namespace
+
 const TEXTMETRIC& Metrics(FontObject* font) {
     if (font->metricsKnown)
         return font->metrics;
+    char* key = pango_font_description_to_string(font->description);
+    std::string name(key);
+    g_free(key);
+    auto found = MeasuredFonts().find(name);
+    if (found != MeasuredFonts().end()) {
+        font->metrics = found->second.metrics;
+        font->baseline = found->second.baseline;
+        ApplyStyle(font);
+        return font->metrics;
+    }
     PangoFontMetrics* m = pango_context_get_metrics(SharedContext(), font->description, nullptr);
     TEXTMETRIC& tm = font->metrics;
     tm.tmAscent = LONG(std::ceil(double(pango_font_metrics_get_ascent(m)) / PANGO_SCALE));
@@ -95,19 +137,14 @@ const TEXTMETRIC& Metrics(FontObject* font) {
     tm.tmMaxCharWidth = logical.width;
     font->baseline = pango_layout_get_baseline(layout) / PANGO_SCALE;
 
-    tm.tmWeight = font->log.lfWeight == FW_DONTCARE ? FW_NORMAL : font->log.lfWeight;
     tm.tmDigitizedAspectX = 96;
     tm.tmDigitizedAspectY = 96;
     tm.tmFirstChar = 0x20;
     tm.tmLastChar = char(0x7E);
     tm.tmDefaultChar = '?';
     tm.tmBreakChar = ' ';
-    tm.tmItalic = font->log.lfItalic;
-    tm.tmUnderlined = font->log.lfUnderline;
-    tm.tmStruckOut = font->log.lfStrikeOut;
-    tm.tmPitchAndFamily = font->log.lfPitchAndFamily;
-    tm.tmCharSet = font->log.lfCharSet;
-    font->metricsKnown = true;
+    MeasuredFonts()[name] = {tm, font->baseline};
+    ApplyStyle(font);
     return tm;
 }
 
