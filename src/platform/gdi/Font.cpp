@@ -185,7 +185,8 @@ HFONT CreateFontIndirect(const LOGFONT* logFont) {
         em = std::round(logFont->lfHeight / CellPerEm(family));
     PangoFontDescription* d = pango_font_description_new();
     pango_font_description_set_family_static(d, family);
-    pango_font_description_set_absolute_size(d, std::max(1.0, em) * PANGO_SCALE);
+    // Sizes beyond any screen are held to one that still renders in reasonable time.
+    pango_font_description_set_absolute_size(d, std::clamp(em, 1.0, 2000.0) * PANGO_SCALE);
     LONG weight = logFont->lfWeight == FW_DONTCARE ? FW_NORMAL : logFont->lfWeight;
     pango_font_description_set_weight(d, PangoWeight(std::clamp<LONG>(weight, 100, 1000)));
     pango_font_description_set_style(d,

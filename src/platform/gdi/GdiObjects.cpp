@@ -93,8 +93,11 @@ Object* Lookup(AnyGdiHandle handle) {
 }
 
 BitmapObject* NewBitmap(int width, int height, int bitsPerPixel) {
+    auto pixels = std::make_unique<Surface>(std::max(width, 0), std::max(height, 0));
+    if (pixels->Width() != std::max(width, 0) || pixels->Height() != std::max(height, 0))
+        return nullptr; // too large to allocate
     auto* bitmap = new BitmapObject;
-    bitmap->pixels = std::make_unique<Surface>(std::max(width, 0), std::max(height, 0));
+    bitmap->pixels = std::move(pixels);
     bitmap->bitsPerPixel = bitsPerPixel;
     Register(bitmap);
     return bitmap;
@@ -331,6 +334,8 @@ HBITMAP CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixel, cons
         (bitsPerPixel != 1 && bitsPerPixel != 24 && bitsPerPixel != 32))
         return nullptr;
     BitmapObject* bitmap = NewBitmap(width, height, bitsPerPixel == 1 ? 1 : 32);
+    if (bitmap == nullptr)
+        return nullptr;
     if (bits == nullptr) {
         if (bitsPerPixel == 1)
             return HBITMAP(Handle(bitmap));
@@ -370,7 +375,8 @@ HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) {
         return nullptr;
     if (width < 0 || height < 0)
         return nullptr;
-    return HBITMAP(Handle(NewBitmap(width, height, 32)));
+    BitmapObject* bitmap = NewBitmap(width, height, 32);
+    return bitmap != nullptr ? HBITMAP(Handle(bitmap)) : nullptr;
 }
 
 Surface* GdiBitmapSurface(HBITMAP handle) {
@@ -406,6 +412,8 @@ BitmapResource MakeResource(int width, int height, const COLORREF* pixels) {
 
 HBITMAP BitmapFromResource(const BitmapResource& resource) {
     BitmapObject* bitmap = NewBitmap(resource.width, resource.height, 32);
+    if (bitmap == nullptr)
+        return nullptr;
     auto* surface = static_cast<cairo_surface_t*>(bitmap->pixels->NativeHandle());
     cairo_surface_flush(surface);
     unsigned char* data = cairo_image_surface_get_data(surface);

@@ -508,6 +508,10 @@ BOOL CDC::StretchBlt(int x, int y, int width, int height, CDC* source, int xSrc,
     // then blit that.
     int w = std::abs(width), h = std::abs(height);
     cairo_surface_t* scaled = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, w, h);
+    if (cairo_surface_status(scaled) != CAIRO_STATUS_SUCCESS) {
+        cairo_surface_destroy(scaled);
+        return FALSE;
+    }
     cairo_t* cr = cairo_create(scaled);
     POINT from = src->ToSurface(xSrc, ySrc);
     double scaleX = double(width) / srcWidth, scaleY = double(height) / srcHeight;

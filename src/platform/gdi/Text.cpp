@@ -207,7 +207,8 @@ int CDC::DrawText(LPCTSTR raw, int count, LPRECT rect, UINT format) {
     if (singleLine) {
         width = text.empty() ? 0 : LayoutWidth(layout);
         height = lineHeight;
-        if ((format & DT_END_ELLIPSIS) && (format & DT_CALCRECT) == 0 && width > rectWidth) {
+        if ((format & DT_END_ELLIPSIS) && (format & DT_CALCRECT) == 0 && width > rectWidth &&
+            !text.empty()) {
             width = EndEllipsis(font, prepared, rectWidth);
             layout = Layout(font, text.data(), int(text.size()), prepared.underlineStart,
                             prepared.underlineEnd);

@@ -305,3 +305,35 @@ TEST_F(DrawingTest, ObjectsAndHandles) {
     EXPECT_EQ(GetSysColorBrush(-1), nullptr);
     EXPECT_NE(GetSysColorBrush(5), nullptr);
 }
+
+TEST_F(DrawingTest, BadInputFailsQuietly) {
+    EXPECT_EQ(CreateBitmap(1 << 20, 1 << 20, 1, 32, nullptr), nullptr);
+    EXPECT_EQ(CreateBitmap(4, 4, 2, 32, nullptr), nullptr);
+    CBitmap huge;
+    EXPECT_FALSE(huge.CreateCompatibleBitmap(&dc, -1, 5));
+    EXPECT_EQ(SelectObject(dc.m_hDC, HGDIOBJ(nullptr)), nullptr);
+    EXPECT_EQ(dc.SelectObject(static_cast<CPen*>(nullptr)), nullptr);
+    EXPECT_FALSE(dc.BitBlt(0, 0, 10, 10, nullptr, 0, 0, SRCCOPY));
+    EXPECT_FALSE(dc.StretchBlt(0, 0, 1 << 20, 1 << 20, &dc, 0, 0, 1, 1, SRCCOPY));
+    EXPECT_FALSE(dc.RestoreDC(0));
+    EXPECT_FALSE(DeleteDC(nullptr));
+    HDC stale = CreateCompatibleDC(nullptr);
+    EXPECT_TRUE(DeleteDC(stale));
+    EXPECT_FALSE(DeleteDC(stale));
+    EXPECT_EQ(CDC::FromHandle(stale), nullptr);
+
+    // Text in an empty or inverted rectangle, an empty text with an ellipsis, a huge font.
+    CRect inverted(50, 50, 10, 10);
+    dc.DrawText("text", -1, &inverted, DT_SINGLELINE | DT_END_ELLIPSIS);
+    CRect empty(10, 10, 10, 10);
+    EXPECT_GT(dc.DrawText("", -1, &empty, DT_SINGLELINE | DT_END_ELLIPSIS | DT_VCENTER), 0);
+    EXPECT_EQ(dc.DrawText(nullptr, -1, &empty, 0), 0);
+    LOGFONT lf{};
+    lf.lfHeight = -1000000;
+    CFont hugeFont;
+    ASSERT_TRUE(hugeFont.CreateFontIndirect(&lf));
+    CFont* old = dc.SelectObject(&hugeFont);
+    EXPECT_GT(dc.GetTextExtent("x", 1).cx, 100);
+    dc.SelectObject(old);
+    EXPECT_EQ(Ink(CRect(0, 0, kWidth, kHeight)), CRect());
+}
