@@ -12,7 +12,9 @@ constexpr char kMagic[8] = {'O', 'R', 'V', 'A', 'C', 'H', 'R', 'T'};
 constexpr std::uint32_t kVersion = 1;
 constexpr size_t kMaxFileSize = size_t(1) << 30;
 
-std::uint32_t Crc32(const unsigned char* data, size_t size) {
+} // namespace
+
+std::uint32_t ChartFileChecksum(const unsigned char* data, size_t size) {
     static const auto table = [] {
         std::array<std::uint32_t, 256> t{};
         for (std::uint32_t i = 0; i < 256; ++i) {
@@ -28,6 +30,8 @@ std::uint32_t Crc32(const unsigned char* data, size_t size) {
         crc = table[(crc ^ data[i]) & 0xFF] ^ (crc >> 8);
     return crc ^ 0xFFFFFFFFu;
 }
+
+namespace {
 
 void PutU32(std::string& out, std::uint32_t value) {
     for (int i = 0; i < 4; ++i)
@@ -129,7 +133,8 @@ std::string SerializeChart(const ChartProperties& properties) {
     PutU32(file, kVersion);
     PutU32(file, std::uint32_t(payload.size()));
     file += payload;
-    PutU32(file, Crc32(reinterpret_cast<const unsigned char*>(payload.data()), payload.size()));
+    PutU32(file, ChartFileChecksum(reinterpret_cast<const unsigned char*>(payload.data()),
+                                   payload.size()));
     return file;
 }
 
@@ -146,7 +151,7 @@ bool ParseChart(const unsigned char* data, size_t size, std::map<int, PropertyVa
     Reader crcReader(payload + length, 4);
     std::uint32_t crc = 0;
     crcReader.U32(crc);
-    if (crc != Crc32(payload, length))
+    if (crc != ChartFileChecksum(payload, length))
         return false;
 
     Reader reader(payload, length);
@@ -161,8 +166,9 @@ bool ParseChart(const unsigned char* data, size_t size, std::map<int, PropertyVa
             return false;
         PropertyValue value;
         value.kind = KindOfProperty(int(number));
+        // Properties come in ascending order, as they are written: one file, one form.
         if (kind != std::uint8_t(value.kind) || value.kind == PropertyKind::Record ||
-            values.count(int(number)))
+            (!values.empty() && int(number) <= values.rbegin()->first))
             return false;
         bool ok = true;
         switch (value.kind) {

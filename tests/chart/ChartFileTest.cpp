@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include <string>
 
 namespace {
@@ -87,6 +89,24 @@ TEST(ChartTicks, StepsAreOneTwoOrFiveTimesAPowerOfTen) {
     ASSERT_FALSE(days.empty());
     EXPECT_DOUBLE_EQ(days.front().value, 45001);
     EXPECT_EQ(days.front().label, "16 Mar 2023");
+}
+
+} // namespace
+
+namespace {
+
+// A file written by the first version of the format must stay readable as it was written.
+TEST(ChartFile, ReadsTheVersionOneFixture) {
+    const char* data = std::getenv("ORVA_TEST_DATA");
+    ASSERT_NE(data, nullptr);
+    std::map<int, PropertyValue> loaded;
+    ASSERT_TRUE(LoadChartFile((std::string(data) + "/chart/rating-v1.chart").c_str(), loaded));
+    ChartProperties p;
+    p.Replace(loaded);
+    EXPECT_EQ(p.Text(2105), "Rating curve");
+    EXPECT_EQ(p.Strings(2125), std::vector<std::string>{"Gauge A"});
+    EXPECT_EQ(p.Doubles(3014), (std::vector<double>{2.0, -9999.0, 6.5}));
+    EXPECT_EQ(p.Int(3090, 0), 13);
 }
 
 } // namespace
