@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 #include <string>
+#include <utility>
+#include <vector>
 
 using namespace gdi;
 
@@ -39,14 +41,13 @@ int Length(LPCTSTR text, int count) {
 // A text made ready for Pango: UTF-8, prefixes and line ends handled as `format` says.
 struct PreparedText {
     std::string text;
-    int underlineStart = -1; // byte range of the prefixed character
-    int underlineEnd = -1;
+    std::vector<std::pair<int, int>> underlines; // byte ranges of the prefixed characters
 };
 
 void Prepare(PreparedText& prepared, LPCTSTR raw, int count, UINT format) {
     std::string& text = prepared.text;
     text.clear();
-    prepared.underlineStart = prepared.underlineEnd = -1;
+    prepared.underlines.clear();
     AppendUtf8(text, raw, count);
     bool needsWork = (format & DT_NOPREFIX) == 0 || (format & DT_SINGLELINE) != 0 ||
                      (format & DT_EXPANDTABS) == 0;
@@ -61,10 +62,10 @@ void Prepare(PreparedText& prepared, LPCTSTR raw, int count, UINT format) {
                 out += '&';
                 ++i;
             } else if (i + 1 < text.size()) {
-                prepared.underlineStart = int(out.size());
+                int start = int(out.size());
                 std::size_t next = std::size_t(g_utf8_next_char(text.data() + i + 1) - text.data());
                 out.append(text, i + 1, next - (i + 1));
-                prepared.underlineEnd = int(out.size());
+                prepared.underlines.emplace_back(start, int(out.size()));
                 i = next - 1;
             }
             continue;
@@ -89,26 +90,30 @@ void Prepare(PreparedText& prepared, LPCTSTR raw, int count, UINT format) {
 }
 
 // Sets the shared layout to `text` in `font`, with the font's own and the prefix's lines.
-PangoLayout* Layout(FontObject* font, const char* text, int length, int underlineStart = -1,
-                    int underlineEnd = -1) {
+using Underlines = std::vector<std::pair<int, int>>;
+
+PangoLayout* Layout(FontObject* font, const char* text, int length,
+                    const Underlines* underlines = nullptr) {
     PangoLayout* layout = SharedLayout();
     pango_layout_set_font_description(layout, font->description);
     pango_layout_set_text(layout, text, length);
     pango_layout_set_width(layout, -1);
     pango_layout_set_alignment(layout, PANGO_ALIGN_LEFT);
     pango_layout_set_tabs(layout, nullptr);
-    if (font->log.lfUnderline || font->log.lfStrikeOut || underlineStart >= 0) {
+    bool prefixed = underlines != nullptr && !underlines->empty();
+    if (font->log.lfUnderline || font->log.lfStrikeOut || prefixed) {
         PangoAttrList* attributes = pango_attr_list_new();
         if (font->log.lfUnderline)
             pango_attr_list_insert(attributes, pango_attr_underline_new(PANGO_UNDERLINE_SINGLE));
         if (font->log.lfStrikeOut)
             pango_attr_list_insert(attributes, pango_attr_strikethrough_new(TRUE));
-        if (underlineStart >= 0 && !font->log.lfUnderline) {
-            PangoAttribute* line = pango_attr_underline_new(PANGO_UNDERLINE_SINGLE);
-            line->start_index = guint(underlineStart);
-            line->end_index = guint(underlineEnd);
-            pango_attr_list_insert(attributes, line);
-        }
+        if (prefixed && !font->log.lfUnderline)
+            for (auto [start, end] : *underlines) {
+                PangoAttribute* line = pango_attr_underline_new(PANGO_UNDERLINE_SINGLE);
+                line->start_index = guint(start);
+                line->end_index = guint(end);
+                pango_attr_list_insert(attributes, line);
+            }
         pango_layout_set_attributes(layout, attributes);
         pango_attr_list_unref(attributes);
     } else {
@@ -174,8 +179,8 @@ int EndEllipsis(FontObject* font, PreparedText& prepared, int width) {
     }
     text.resize(std::size_t(starts[std::size_t(low)]));
     text += "...";
-    if (prepared.underlineEnd > int(text.size()) - 3)
-        prepared.underlineStart = prepared.underlineEnd = -1;
+    auto cut = int(text.size()) - 3;
+    std::erase_if(prepared.underlines, [cut](const auto& range) { return range.second > cut; });
     return widthWith(low);
 }
 
@@ -195,8 +200,7 @@ int CDC::DrawText(LPCTSTR raw, int count, LPRECT rect, UINT format) {
     int rectWidth = rect->right - rect->left, rectHeight = rect->bottom - rect->top;
     int lineHeight = tm.tmHeight + ((format & DT_EXTERNALLEADING) ? tm.tmExternalLeading : 0);
 
-    PangoLayout* layout =
-        Layout(font, text.data(), int(text.size()), prepared.underlineStart, prepared.underlineEnd);
+    PangoLayout* layout = Layout(font, text.data(), int(text.size()), &prepared.underlines);
     if (format & DT_EXPANDTABS) {
         PangoTabArray* tabs = pango_tab_array_new_with_positions(
             1, TRUE, PANGO_TAB_LEFT, 8 * std::max<LONG>(1, tm.tmAveCharWidth));
@@ -210,8 +214,7 @@ int CDC::DrawText(LPCTSTR raw, int count, LPRECT rect, UINT format) {
         if ((format & DT_END_ELLIPSIS) && (format & DT_CALCRECT) == 0 && width > rectWidth &&
             !text.empty()) {
             width = EndEllipsis(font, prepared, rectWidth);
-            layout = Layout(font, text.data(), int(text.size()), prepared.underlineStart,
-                            prepared.underlineEnd);
+            layout = Layout(font, text.data(), int(text.size()), &prepared.underlines);
         }
     } else {
         if (format & DT_WORDBREAK) {
