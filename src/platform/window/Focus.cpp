@@ -51,21 +51,23 @@ void ForgetWindowState(HWND hwnd) {
 
 HWND SetFocus(HWND hwnd) {
     FocusState& f = F();
-    const HWND old = f.focus;
+    const HWND previous = f.focus;
     if (hwnd && !Find(hwnd))
         return nullptr;
-    if (hwnd == old)
-        return old;
-    if (hwnd)
+    // Activating the window's frame may move the focus to the frame first.
+    if (hwnd && hwnd != previous)
         SetActiveWindow(GetAncestor(hwnd, GA_ROOT));
-    // The focus has moved by the time the old window hears of it, as in the framework.
-    f.focus = hwnd;
-    if (WindowRecord* o = Find(old))
-        Send(o, WM_KILLFOCUS, WPARAM(hwnd), 0);
-    if (f.focus == hwnd)
-        if (WindowRecord* n = Find(hwnd))
-            Send(n, WM_SETFOCUS, WPARAM(old), 0);
-    return Find(old) ? old : nullptr;
+    const HWND old = f.focus;
+    if (hwnd != old) {
+        // The focus has moved by the time the old window hears of it, as in the framework.
+        f.focus = hwnd;
+        if (WindowRecord* o = Find(old))
+            Send(o, WM_KILLFOCUS, WPARAM(hwnd), 0);
+        if (f.focus == hwnd)
+            if (WindowRecord* n = Find(hwnd))
+                Send(n, WM_SETFOCUS, WPARAM(old), 0);
+    }
+    return Find(previous) ? previous : nullptr;
 }
 
 HWND GetFocus() {
@@ -121,7 +123,10 @@ HWND GetActiveWindow() {
     return Find(F().active) ? F().active : nullptr;
 }
 BOOL SetForegroundWindow(HWND hwnd) {
-    return SetActiveWindow(hwnd) != hwnd || hwnd;
+    if (!Find(hwnd))
+        return FALSE;
+    SetActiveWindow(hwnd);
+    return TRUE;
 }
 HWND GetForegroundWindow() {
     return GetActiveWindow();

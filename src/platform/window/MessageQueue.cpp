@@ -183,16 +183,18 @@ LRESULT DispatchMessage(const MSG* msg) {
         return 0;
     if (msg->message != WM_PAINT)
         return Send(w, msg->message, msg->wParam, msg->lParam);
+    // The frame first, so that it is drawn even for windows that paint without BeginPaint.
+    if (w->frameDirty) {
+        w->frameDirty = false;
+        Send(w, WM_NCPAINT, 1, 0);
+        if ((w = Find(msg->hwnd)) == nullptr || w->update.IsRectEmpty())
+            return 0;
+    }
     // A paint handler that neither paints nor validates would be asked again for ever.
     const CRect before = w->update;
-    const bool frameBefore = w->frameDirty;
     const LRESULT result = Send(w, WM_PAINT, 0, 0);
-    if ((w = Find(msg->hwnd)) != nullptr) {
-        if (w->update == before)
-            w->update.SetRectEmpty();
-        if (frameBefore && w->frameDirty)
-            w->frameDirty = false;
-    }
+    if ((w = Find(msg->hwnd)) != nullptr && w->update == before)
+        w->update.SetRectEmpty();
     return result;
 }
 

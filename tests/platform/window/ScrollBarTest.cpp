@@ -99,7 +99,7 @@ TEST_F(ScrollBarTest, DraggingTheThumbTracksAndThenSetsThePosition) {
     ui.Drag(view.m_hWnd, CPoint(x, bar + 2), CPoint(x, bar + 2 + (track - thumb) / 2), 0, 1);
     const auto scrolls = Only(log, {"vscroll"});
     ASSERT_EQ(scrolls.size(), 3u);
-    EXPECT_EQ(scrolls[0], "view:vscroll 5 450");
+    EXPECT_EQ(scrolls[0], "view:vscroll 5 450 track 450");
     EXPECT_EQ(scrolls[1], "view:vscroll 4 450");
     EXPECT_EQ(scrolls[2], "view:vscroll 8 0");
     // Tracking leaves the position to the window, which has not moved it here.

@@ -89,7 +89,13 @@ protected:
     void OnLButtonUp(UINT flags, CPoint p) override { LogMouse("lup", flags, p); }
     void OnLButtonDblClk(UINT flags, CPoint p) override { LogMouse("ldbl", flags, p); }
     void OnVScroll(UINT code, UINT pos, CScrollBar*) override {
-        Log("vscroll " + std::to_string(code) + " " + std::to_string(pos));
+        std::string entry = "vscroll " + std::to_string(code) + " " + std::to_string(pos);
+        if (code == SB_THUMBTRACK) {
+            SCROLLINFO si{};
+            GetScrollInfo(SB_VERT, &si, SIF_TRACKPOS);
+            entry += " track " + std::to_string(si.nTrackPos);
+        }
+        Log(entry);
     }
     void OnHScroll(UINT code, UINT pos, CScrollBar*) override {
         Log("hscroll " + std::to_string(code) + " " + std::to_string(pos));
