@@ -46,48 +46,6 @@ void CGridCellBase::Reset() {
     m_mergeCell = CCellID(-1, -1);
 }
 
-BOOL CGridCellBase::Draw(CDC* dc, int row, int col, CRect rect, BOOL eraseBackground) {
-    return FALSE; // nothing drawn
-}
-
-BOOL CGridCellBase::GetTextRect(LPRECT rect) {
-    return rect != nullptr;
-}
-
-CSize CGridCellBase::GetTextExtent(LPCTSTR text, CDC* dc) {
-    CGridCtrl* grid = GetGrid();
-    HWND window = grid != nullptr ? grid->GetSafeHwnd() : nullptr;
-    if (dc == nullptr && window == nullptr) {
-        CGridDefaultCell* defaultCell =
-            grid != nullptr ? grid->GetDefaultCell(IsFixedRow(), IsFixedCol()) : nullptr;
-        if (defaultCell == nullptr) {
-            return CSize(0, 0);
-        }
-        return CSize(defaultCell->GetWidth(), defaultCell->GetHeight());
-    }
-    CDC* measuring = dc != nullptr ? dc : grid->GetDC();
-    if (measuring == nullptr) {
-        return CSize(0, 0);
-    }
-    CFont* font = GetFontObject();
-    CFont* oldFont = font != nullptr ? measuring->SelectObject(font) : nullptr;
-    CSize size = measuring->GetTextExtent(CString(text != nullptr ? text : ""));
-    if (oldFont != nullptr) {
-        measuring->SelectObject(oldFont);
-    }
-    if (measuring != dc) {
-        grid->ReleaseDC(measuring);
-    }
-    const int margin = int(GetMargin());
-    size.cx += 4 * margin;
-    size.cy += 2 * margin;
-    return size;
-}
-
-CSize CGridCellBase::GetCellExtent(CDC* dc) {
-    return GetTextExtent(GetText(), dc);
-}
-
 BOOL CGridCellBase::PrintCell(CDC* dc, int row, int col, CRect rect) {
     return Draw(dc, row, col, rect, TRUE);
 }

@@ -359,6 +359,14 @@ protected:
     virtual void OnCellChanged(int row, int col) {}
     virtual void OnRClick(int row, int col, CPoint point) {}
 
+    // Window messages.
+    void OnPaint() override;
+    BOOL OnEraseBkgnd(CDC* dc) override;
+    void OnSize(UINT type, int cx, int cy) override;
+    void OnHScroll(UINT code, UINT position, CScrollBar* scrollBar) override;
+    void OnVScroll(UINT code, UINT position, CScrollBar* scrollBar) override;
+    BOOL OnMouseWheel(UINT flags, short delta, CPoint point) override;
+
     // Window glue.
     void Initialise();
     void SetupDefaultCells();
@@ -371,7 +379,9 @@ protected:
     CCellID GetTopleftNonFixedCell(BOOL forceRecalculation = FALSE);
     BOOL GetCellRangeRect(const CCellRange& cellRange, LPRECT rect);
     void ResetScrollBars();
+    void EraseBkgnd(CDC* dc);
     BOOL InvalidateCellRect(int row, int col);
+    BOOL InvalidateCellRect(const CCellID& cell) { return InvalidateCellRect(cell.row, cell.col); }
     BOOL InvalidateCellRect(const CCellRange& cellRange);
     void SelectAllCells();
     void SelectColumns(CCellID cell, BOOL forceRedraw = FALSE, BOOL select = TRUE);
@@ -390,6 +400,14 @@ protected:
     void ClearSelectionAndFocus();
     void DiscardRowsBeyondCount();
     void ReadWheelScrollLines();
+    // The origin of a cell in a walk over the sizes; false for a cell scrolled out of view.
+    BOOL CellOrigin(int row, int col, CPoint& origin);
+    // One cell of a paint pass; a merged block is kept back in `blocks` and drawn once, last.
+    void DrawCellInPass(CDC* dc, int row, int col, const CRect& rect, std::vector<CCellID>& blocks);
+    void DrawMergedBlock(CDC* dc, const CCellID& topLeft);
+    void DrawGridLines(CDC* dc, const CCellRange& visible, const CRect& visibleRect);
+    void ScrollBy(int bar, UINT code);
+    void RedrawFocusHeadings(const CCellID& cell, const CCellID& other);
     // Runs a step that allocates. A failed allocation is reported through the memory
     // exception's own box and answers false; what the step made before failing stays.
     static bool Allocating(const std::function<void()>& step);

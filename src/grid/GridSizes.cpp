@@ -52,7 +52,3 @@ long CGridCtrl::GetVirtualHeight() const {
 long CGridCtrl::GetVirtualWidth() const {
     return std::accumulate(m_colWidths.begin(), m_colWidths.end(), 0L);
 }
-
-void CGridCtrl::ResetScrollBars() {
-    m_topLeftCell.col = -1;
-}
