@@ -46,7 +46,9 @@ struct BrushObject : Object {
     LOGBRUSH log{};
     cairo_surface_t* pattern = nullptr; // the pattern's pixels, for pattern brushes
     bool monochromePattern = false;
+    int sysColor = -1; // the system colour a shared brush follows, or -1
     ~BrushObject() override;
+    COLORREF Color() const; // the colour now, for solid and hatched brushes
 };
 
 struct FontObject : Object {

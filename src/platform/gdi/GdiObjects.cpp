@@ -48,6 +48,10 @@ BrushObject::~BrushObject() {
         cairo_surface_destroy(pattern);
 }
 
+COLORREF BrushObject::Color() const {
+    return sysColor >= 0 ? GetSysColor(sysColor) : log.lbColor;
+}
+
 BitmapObject::~BitmapObject() = default;
 
 RegionObject::~RegionObject() {
@@ -222,8 +226,12 @@ int GetObject(AnyGdiHandle handle, int count, LPVOID buffer) {
     switch (object->kind) {
     case Kind::Pen:
         return copy(&static_cast<PenObject*>(object)->log, sizeof(LOGPEN));
-    case Kind::Brush:
-        return copy(&static_cast<BrushObject*>(object)->log, sizeof(LOGBRUSH));
+    case Kind::Brush: {
+        auto* brush = static_cast<BrushObject*>(object);
+        LOGBRUSH record = brush->log;
+        record.lbColor = brush->Color();
+        return copy(&record, sizeof(LOGBRUSH));
+    }
     case Kind::Font:
         return copy(&static_cast<FontObject*>(object)->log, sizeof(LOGFONT));
     case Kind::Bitmap: {
@@ -326,6 +334,7 @@ HBRUSH GetSysColorBrush(int index) {
         Register(brush);
     }
     brush->log = {BS_SOLID, GetSysColor(index), 0};
+    brush->sysColor = index;
     return HBRUSH(Handle(brush));
 }
 

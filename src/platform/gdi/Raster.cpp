@@ -134,7 +134,7 @@ cairo_pattern_t* BrushPattern(DcState* dc, BrushObject* brush) {
         return nullptr;
     switch (brush->log.lbStyle) {
     case BS_SOLID: {
-        COLORREF c = brush->log.lbColor;
+        COLORREF c = brush->Color();
         return cairo_pattern_create_rgb(GetRValue(c) / 255.0, GetGValue(c) / 255.0,
                                         GetBValue(c) / 255.0);
     }
@@ -152,7 +152,7 @@ cairo_pattern_t* BrushPattern(DcState* dc, BrushObject* brush) {
                 std::uint32_t pixel;
                 if (hatched) {
                     if (HatchBit(int(brush->log.lbHatch), x, y))
-                        pixel = ToPixel(brush->log.lbColor);
+                        pixel = ToPixel(brush->Color());
                     else
                         pixel =
                             dc->attributes.bkMode == OPAQUE ? ToPixel(dc->attributes.bkColor) : 0;
@@ -186,10 +186,10 @@ std::uint32_t BrushPixel(DcState* dc, BrushObject* brush, int x, int y) {
     POINT origin = PatternOrigin(dc);
     switch (brush->log.lbStyle) {
     case BS_SOLID:
-        return ToPixel(brush->log.lbColor);
+        return ToPixel(brush->Color());
     case BS_HATCHED:
         return HatchBit(int(brush->log.lbHatch), x - origin.x, y - origin.y)
-                   ? ToPixel(brush->log.lbColor)
+                   ? ToPixel(brush->Color())
                    : ToPixel(dc->attributes.bkColor);
     case BS_PATTERN: {
         int w = cairo_image_surface_get_width(brush->pattern);

@@ -200,3 +200,45 @@ TEST_F(TextTest, TextOutAlignmentAndOpaqueBackground) {
     EXPECT_EQ(Pixel(19, 29), kBlue);
     EXPECT_TRUE(Ink(CRect(20, 0, 60, 40)).IsRectEmpty());
 }
+
+TEST_F(TextTest, WindowsCodePageTextsAreDrawnAsTheirCharacters) {
+    // The degree sign in the Windows code page and in UTF-8 measure the same.
+    EXPECT_EQ(dc.GetTextExtent("12\xB0", 3), dc.GetTextExtent("12\xC2\xB0", 4));
+    EXPECT_EQ(dc.GetTextExtent("\x80", 1), dc.GetTextExtent("\xE2\x82\xAC", 3)); // the euro
+    EXPECT_GT(dc.GetTextExtent("\xB0", 1).cx, 0);
+}
+
+TEST_F(TextTest, TabsExpandToStopsOnlyWhenAsked) {
+    TEXTMETRIC tm{};
+    dc.GetTextMetrics(&tm);
+    CRect expanded(0, 0, 0, 0), plain(0, 0, 0, 0);
+    dc.DrawText("a\tb", -1, &expanded, DT_SINGLELINE | DT_CALCRECT | DT_EXPANDTABS);
+    dc.DrawText("a\tb", -1, &plain, DT_SINGLELINE | DT_CALCRECT);
+    EXPECT_GE(expanded.Width(), 8 * tm.tmAveCharWidth);
+    EXPECT_LT(plain.Width(), expanded.Width());
+}
+
+TEST_F(TextTest, UpdatingTheCurrentPositionWritesOnFromTheLastText) {
+    dc.SetTextAlign(TA_UPDATECP);
+    dc.MoveTo(10, 20);
+    dc.TextOut(0, 0, "ab", 2);
+    CPoint after = dc.GetCurrentPosition();
+    EXPECT_EQ(after, CPoint(10 + dc.GetTextExtent("ab", 2).cx, 20));
+    dc.TextOut(0, 0, "cd", 2);
+    CRect ink = Ink(CRect(0, 0, kWidth, kHeight));
+    EXPECT_GE(ink.left, 10);
+    EXPECT_GE(ink.top, 20);
+    EXPECT_GT(ink.right, after.x);
+    dc.SetTextAlign(TA_LEFT | TA_TOP);
+}
+
+TEST_F(TextTest, MultiLineTextAlignsEachLine) {
+    CRect cell(10, 10, 190, 100);
+    CRect centred = Draw("a long first line\nshort", cell, DT_CENTER | DT_NOPREFIX);
+    TEXTMETRIC tm{};
+    dc.GetTextMetrics(&tm);
+    CRect second = Ink(CRect(0, 10 + tm.tmHeight, kWidth, 10 + 2 * tm.tmHeight));
+    EXPECT_NEAR(second.CenterPoint().x, cell.CenterPoint().x, 2);
+    EXPECT_NEAR(centred.CenterPoint().x, cell.CenterPoint().x, 2);
+    EXPECT_GE(centred.Height(), tm.tmHeight + 2);
+}
