@@ -119,9 +119,12 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
         if (parent && SendMessage(parent, WM_SETCURSOR, wParam, lParam))
             return TRUE;
         if (LOWORD(std::uintptr_t(lParam)) == HTCLIENT) {
-            if (!w->classCursor)
+            // The cursor of the window under the mouse, whichever ancestor sets it.
+            const WindowRecord* under = Find(reinterpret_cast<HWND>(wParam));
+            const HCURSOR cursor = under ? under->classCursor : w->classCursor;
+            if (!cursor)
                 return FALSE;
-            SetCursor(w->classCursor);
+            SetCursor(cursor);
             return TRUE;
         }
         SetCursor(LoadCursor(nullptr, IDC_ARROW));
@@ -146,6 +149,7 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
         if (pos && !(pos->flags & SWP_NOSIZE)) {
             RECT client;
             GetClientRect(hwnd, &client);
+            w->announcedClient = CSize(client.right, client.bottom);
             SendMessage(hwnd, WM_SIZE, SIZE_RESTORED,
                         MAKELPARAM(WORD(client.right), WORD(client.bottom)));
         }

@@ -51,6 +51,7 @@ void SetBarsShown(WindowRecord& w, DWORD bits, bool show) {
     const CSize after = ClientInWindow(w).Size();
     if (after != before) {
         InvalidateClient(w, CRect(CPoint(0, 0), after), true);
+        w.announcedClient = after;
         Send(&w, WM_SIZE, SIZE_RESTORED, MAKELPARAM(WORD(after.cx), WORD(after.cy)));
     }
 }

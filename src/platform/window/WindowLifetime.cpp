@@ -35,6 +35,7 @@ void SendSizeAndMove(WindowRecord& w) {
     const HWND hwnd = w.handle;
     RECT client;
     GetClientRect(hwnd, &client);
+    w.announcedClient = CSize(client.right, client.bottom);
     Send(&w, WM_SIZE, SIZE_RESTORED, MAKELPARAM(WORD(client.right), WORD(client.bottom)));
     if (WindowRecord* again = Find(hwnd)) {
         POINT origin{0, 0};

@@ -36,7 +36,7 @@ BOOL SetWindowPos(HWND hwnd, HWND insertAfter, int x, int y, int width, int heig
     if (!w)
         return FALSE;
     const CRect oldRect = w->rect;
-    const CSize oldClient = ClientInWindow(*w).Size();
+    const CSize oldClient = w->announcedClient;
     CRect newRect = oldRect;
     if (!(flags & SWP_NOMOVE))
         newRect.MoveToXY(x, y);

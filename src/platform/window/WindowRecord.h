@@ -40,7 +40,8 @@ struct WindowRecord {
     DWORD exStyle = 0;
     LONG_PTR id = 0;
     LONG_PTR userData = 0;
-    CRect rect; // parent's client coordinates for a child, screen coordinates otherwise
+    CRect rect;            // parent's client coordinates for a child, screen coordinates otherwise
+    CSize announcedClient; // the client size that the last WM_SIZE told of
     std::string text;
     HFONT font = nullptr;
 

@@ -22,6 +22,11 @@ public:
     CWnd& operator=(const CWnd&) = delete;
 
     HWND m_hWnd = nullptr;
+    // Places in the z-order for SetWindowPos.
+    static const CWnd wndTop;
+    static const CWnd wndBottom;
+    static const CWnd wndTopMost;
+    static const CWnd wndNoTopMost;
     // Null when called through a null pointer, as the framework allows.
     HWND GetSafeHwnd() const;
     operator HWND() const { return GetSafeHwnd(); }
@@ -227,6 +232,8 @@ protected:
     virtual HBRUSH OnCtlColor(CDC* dc, CWnd* wnd, UINT ctlColor);
 
 private:
+    explicit CWnd(HWND placement) : m_hWnd(placement) {}
+
     friend LRESULT AfxWndProc(HWND, UINT, WPARAM, LPARAM);
     friend struct CWndAccess;     // the window manager's side of binding objects to windows
     WNDPROC m_pfnSuper = nullptr; // the window's own procedure, reached by Default()
