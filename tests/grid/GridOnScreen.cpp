@@ -19,6 +19,7 @@ void GridOnScreen::Open(int rows, int cols, int clientWidth, int clientHeight) {
         grid.SetColumnWidth(col, kWidth);
     }
     grid.SendMessage(WM_SIZE, 0, MAKELPARAM(clientWidth, clientHeight));
+    parent.ShowWindow(SW_SHOW);
     ui.Pump();
 }
 
