@@ -177,3 +177,13 @@ TEST_F(GridPaintingTest, AMergedBlockIsDrawnOnceOverItsInnerLines) {
     EXPECT_EQ(Pixel(Cell(1, 1).right - 1, Cell(1, 1).top + 5), line);
     EXPECT_GT(CountPixels(Cell(2, 2, 1), [](COLORREF c) { return Dark(c); }), 0);
 }
+
+TEST_F(GridPaintingTest, AFullRepaintDrawsTheSelectedFocusCellInTheSelectionColours) {
+    Open(10, 6);
+    grid.SetSelectedRange(4, 2, 8, 4);
+    grid.SetFocusCell(8, 4);
+    grid.Refresh();
+    const CRect focus = Cell(8, 4);
+    EXPECT_EQ(Pixel(focus.left + 3, focus.top + 3), GetSysColor(COLOR_HIGHLIGHT));
+    EXPECT_EQ(Pixel(focus.left, focus.top), GetSysColor(COLOR_HIGHLIGHTTEXT));
+}
