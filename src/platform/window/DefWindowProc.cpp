@@ -129,6 +129,13 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
         }
         SetCursor(LoadCursor(nullptr, IDC_ARROW));
         return FALSE;
+    case WM_RBUTTONUP: {
+        // Releasing the right button asks for the context menu, at the cursor's screen point.
+        POINT screen{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+        ClientToScreen(hwnd, &screen);
+        SendMessage(hwnd, WM_CONTEXTMENU, WPARAM(hwnd), MAKELPARAM(WORD(screen.x), WORD(screen.y)));
+        return 0;
+    }
     case WM_MOUSEWHEEL:
     case WM_CONTEXTMENU:
         return parent ? SendMessage(parent, message, wParam, lParam) : 0;

@@ -94,6 +94,24 @@ TEST_F(PaintTest, EraseUsesTheClassBackgroundAndFramesAreDrawn) {
     EXPECT_TRUE(boxed.lastErase == FALSE);
 }
 
+TEST_F(PaintTest, ValidatingASideShrinksTheUpdateAndScrollingMovesChildren) {
+    frame.InvalidateRect(CRect(0, 0, 100, 100), FALSE);
+    frame.ValidateRect(CRect(0, 0, 100, 30));
+    CRect update;
+    frame.GetUpdateRect(&update);
+    EXPECT_EQ(update, CRect(0, 30, 100, 100));
+    frame.ValidateRect(CRect(40, 40, 60, 60)); // a hole cannot come out of one rectangle
+    frame.GetUpdateRect(&update);
+    EXPECT_EQ(update, CRect(0, 30, 100, 100));
+
+    frame.ScrollWindow(0, -10);
+    CRect rect;
+    child.GetWindowRect(&rect);
+    frame.ScreenToClient(&rect);
+    EXPECT_EQ(rect, CRect(50, 30, 150, 110));
+    EXPECT_EQ(ui.Pixel(frame.m_hWnd, CPoint(60, 35)), RGB(255, 0, 0));
+}
+
 TEST_F(PaintTest, HidingAChildRepaintsWhatItCovered) {
     child.ShowWindow(SW_HIDE);
     EXPECT_EQ(ui.Pixel(frame.m_hWnd, CPoint(60, 50)), RGB(0, 0, 255));

@@ -171,6 +171,17 @@ TEST_F(RoutingTest, TheClassCursorIsSetOverTheClientArea) {
     EXPECT_EQ(short(HIWORD(pos)), screen.y);
 }
 
+TEST_F(RoutingTest, AnUnansweredRightClickAsksTheParentForAContextMenu) {
+    LoggingWnd frame(log, "frame");
+    ASSERT_TRUE(frame.CreateTop());
+    frame.SetWindowText("frame");
+    const HWND plain = CreateWindowEx(0, PlainClass(), "plain", WS_CHILD | WS_VISIBLE, 10, 10, 20,
+                                      20, frame.m_hWnd, HMENU(5), nullptr, nullptr);
+    UiDriver ui;
+    ui.RightClick(plain, CPoint(3, 4));
+    EXPECT_THAT(Only(log, {"context"}), ElementsAre("frame:context from plain at 13,14"));
+}
+
 TEST_F(RoutingTest, HiddenWindowsAreNotHitAndRestackingChangesTheOrder) {
     LoggingWnd frame(log, "frame"), a(log, "a"), b(log, "b");
     ASSERT_TRUE(frame.CreateTop());

@@ -100,6 +100,11 @@ protected:
     void OnHScroll(UINT code, UINT pos, CScrollBar*) override {
         Log("hscroll " + std::to_string(code) + " " + std::to_string(pos));
     }
+    void OnContextMenu(CWnd* wnd, CPoint screen) override {
+        ScreenToClient(&screen);
+        Log("context from " + NameOf(wnd) + " at " + std::to_string(screen.x) + "," +
+            std::to_string(screen.y));
+    }
     BOOL OnMouseWheel(UINT, short delta, CPoint) override {
         Log("wheel " + std::to_string(delta));
         return TRUE;
