@@ -104,14 +104,11 @@ PropertyKind KindOfProperty(int number) {
     }
 }
 
-PropertyValue& ChartProperties::Slot(int number) {
-    CacheEntry& entry = m_cache[unsigned(number) % 8];
-    if (entry.value && entry.number == number)
-        return *entry.value;
+PropertyValue& ChartProperties::SlotSlow(int number) {
     auto [it, inserted] = m_values.try_emplace(number);
     if (inserted)
         it->second.kind = KindOfProperty(number);
-    entry = {number, &it->second};
+    m_cache[unsigned(number) % 8] = {number, &it->second};
     return it->second;
 }
 
@@ -242,7 +239,9 @@ int ChartProperties::SetElement(int number, int index, const void* value) {
     const auto grow = [index](auto& items) {
         // std::vector doubles its capacity as it grows: appending one element at a time
         // costs amortised constant time.
-        if (size_t(index) >= items.size())
+        if (size_t(index) == items.size())
+            items.emplace_back();
+        else if (size_t(index) > items.size())
             items.resize(size_t(index) + 1);
     };
     switch (kind) {

@@ -76,7 +76,11 @@ public:
     }
 
 private:
-    PropertyValue& Slot(int number);
+    PropertyValue& Slot(int number) {
+        CacheEntry& entry = m_cache[unsigned(number) % 8];
+        return entry.value && entry.number == number ? *entry.value : SlotSlow(number);
+    }
+    PropertyValue& SlotSlow(int number);
     std::map<int, PropertyValue> m_values;
     // Recently written properties by number modulo eight: a push writes the same few arrays a
     // million times. Map nodes stay put, so only removal clears it.
