@@ -37,8 +37,23 @@ struct ChartDrag {
     HWND chart = nullptr;
     POINT start{};
     bool onDataPoint = false;
+    POINT current{};
 };
+
 ChartDrag g_drag;
+
+// The box of a zoom drag under way on this chart, or an empty rectangle.
+RECT ZoomBox(HWND chart, ChartEngine& engine) {
+    if (g_drag.chart != chart || g_drag.onDataPoint ||
+        engine.Properties().Int(ZoomAllowed, 1) == 0 ||
+        !engine.Frame().plot.Contains(g_drag.start.x, g_drag.start.y))
+        return {};
+    const RECT box{std::min(g_drag.start.x, g_drag.current.x),
+                   std::min(g_drag.start.y, g_drag.current.y),
+                   std::max(g_drag.start.x, g_drag.current.x) + 1,
+                   std::max(g_drag.start.y, g_drag.current.y) + 1};
+    return box.right - box.left > 4 && box.bottom - box.top > 4 ? box : RECT{};
+}
 std::pair<HWND, ChartEngine*> g_lastChart{nullptr, nullptr};
 
 void Notify(HWND chart, unsigned short code) {
@@ -67,6 +82,9 @@ void Paint(HWND chart, ChartEngine& engine) {
                             r.bottom + origin.y};
             engine.Image()->BlitTo(*surface, origin.x, origin.y, clip);
         }
+        const RECT box = ZoomBox(chart, engine);
+        if (box.right > box.left)
+            DrawFocusRect(dc, &box);
     }
     EndPaint(chart, &paint);
 }
@@ -99,12 +117,16 @@ LRESULT ChartWndProc(HWND chart, UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     case WM_MOUSEMOVE:
         engine.MouseAt(x, y);
+        if (g_drag.chart == chart) {
+            g_drag.current = {x, y};
+            InvalidateRect(chart, nullptr, FALSE); // the zoom box follows the mouse
+        }
         Notify(chart, CHARTN_MOUSEMOVE);
         return 0;
     case WM_LBUTTONDOWN:
         engine.MouseAt(x, y);
         SetCapture(chart);
-        g_drag = {chart, {x, y}, engine.Properties().IntElement(HotSpot, 4, 0) != 0};
+        g_drag = {chart, {x, y}, engine.Properties().IntElement(HotSpot, 4, 0) != 0, {x, y}};
         Notify(chart, CHARTN_CLICK);
         return 0;
     case WM_LBUTTONUP: {
@@ -117,6 +139,7 @@ LRESULT ChartWndProc(HWND chart, UINT message, WPARAM wParam, LPARAM lParam) {
                           engine.ZoomTo(g_drag.start.x, g_drag.start.y, x, y);
         g_drag = {};
         Notify(chart, CHARTN_BUTTONUP);
+        InvalidateRect(chart, nullptr, FALSE);
         if (zoom) {
             Repaint(chart, engine);
             Notify(chart, CHARTN_ZOOMIN);
