@@ -2,6 +2,7 @@
 
 #include "grid/GridCtrl.h"
 
+#include <cstring>
 #include <memory>
 
 IMPLEMENT_DYNCREATE(CGridCell, CGridCellBase)
@@ -63,11 +64,17 @@ CFont* CGridCell::GetFontObject() const {
         CGridCellBase* defaultCell = GetDefaultCell();
         return defaultCell != nullptr ? defaultCell->GetFontObject() : nullptr;
     }
-    // One object for every cell with a font of its own, remade on each call: cheap to hold,
-    // and nobody may keep the pointer. Shared without a lock, as the grid runs on one thread.
+    // One object for every cell with a font of its own, remade when a cell asks for another
+    // font: painting a row of cells in one font realises it once. Nobody may keep the pointer.
+    // Shared without a lock, as the grid runs on one thread.
     static CFont fontObject;
-    fontObject.DeleteObject();
-    fontObject.CreateFontIndirect(m_font);
+    static LOGFONT realised{};
+    if (fontObject.GetSafeHandle() == nullptr ||
+        std::memcmp(&realised, m_font, sizeof(LOGFONT)) != 0) {
+        fontObject.DeleteObject();
+        fontObject.CreateFontIndirect(m_font);
+        realised = *m_font;
+    }
     return &fontObject;
 }
 

@@ -34,8 +34,8 @@ public:
     COLORREF GetTextClr() const override { return m_textColor; }
     COLORREF GetBackClr() const override { return m_backColor; }
     LOGFONT* GetFont() const override;
-    // With a font of its own, a process-wide font object made anew on every call: the result
-    // is good only until the next call on any cell.
+    // With a font of its own, a process-wide font object, remade whenever a cell asks for a
+    // different font: the result is good only until the next call on any cell.
     CFont* GetFontObject() const override;
     CGridCtrl* GetGrid() const override { return m_grid; }
     CWnd* GetEditWnd() const override { return m_editWnd; }

@@ -1,0 +1,185 @@
+// Painting the grid on screen. A full repaint of a 1920 x 1080 client full of short texts,
+// through the window's paint message with double buffering, against raw Cairo and Pango drawing
+// the same fills, lines and texts into an image of the same size. And a page scroll with its
+// repaint in a virtual grid of 1,000,000 rows scrolled to the middle.
+
+#include "grid/GridCtrl.h"
+
+#include <benchmark/benchmark.h>
+#include <cairo.h>
+#include <pango/pangocairo.h>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+constexpr int kClientWidth = 1920;
+constexpr int kClientHeight = 1080;
+constexpr int kRowHeight = 20;
+constexpr int kColWidth = 64;
+constexpr int kRows = 80;
+constexpr int kCols = 40;
+
+// A visible top-level window whose client area the grid fills.
+struct GridWindow {
+    CWnd frame;
+    CGridCtrl grid;
+
+    explicit GridWindow(int rows) {
+        frame.CreateEx(0, nullptr, "bench", WS_POPUP | WS_VISIBLE, 0, 0, kClientWidth + 40,
+                       kClientHeight + 40, nullptr, nullptr);
+        grid.Create(CRect(0, 0, kClientWidth, kClientHeight), &frame, 1, WS_CHILD | WS_VISIBLE);
+        grid.SetRowCount(rows);
+        grid.SetColumnCount(kCols);
+        grid.SetFixedRowCount(1);
+        grid.SetFixedColumnCount(1);
+        grid.SetDefCellHeight(kRowHeight);
+        for (int col = 0; col < kCols; col++) {
+            grid.SetColumnWidth(col, kColWidth);
+        }
+    }
+    void Repaint() {
+        grid.Invalidate();
+        grid.UpdateWindow();
+    }
+};
+
+void FillShortTexts(CGridCtrl& grid) {
+    for (int row = 0; row < grid.GetRowCount(); row++) {
+        grid.SetRowHeight(row, kRowHeight, FALSE);
+        for (int col = 0; col < kCols; col++) {
+            grid.SetItemTextFmt(row, col, "%d.%02d", row, col);
+        }
+    }
+    grid.SendMessage(WM_SIZE);
+}
+
+void BM_GridRepaint(benchmark::State& state) {
+    GridWindow window(kRows);
+    FillShortTexts(window.grid);
+    window.Repaint();
+    for (auto _ : state) {
+        window.Repaint();
+    }
+}
+BENCHMARK(BM_GridRepaint)->Unit(benchmark::kMillisecond);
+
+// The same picture drawn directly: the background, the fixed strips with their raised edges,
+// the grid lines, and every cell's text measured, centred vertically and clipped to its cell.
+void BM_RawCairoRepaint(benchmark::State& state) {
+    cairo_surface_t* surface =
+        cairo_image_surface_create(CAIRO_FORMAT_RGB24, kClientWidth, kClientHeight);
+    cairo_t* cr = cairo_create(surface);
+    cairo_set_antialias(cr, CAIRO_ANTIALIAS_NONE);
+    PangoLayout* layout = pango_cairo_create_layout(cr);
+    cairo_font_options_t* options = cairo_font_options_create();
+    cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
+    cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_SLIGHT);
+    cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_ON);
+    pango_cairo_context_set_font_options(pango_layout_get_context(layout), options);
+    PangoFontDescription* font = pango_font_description_from_string("Liberation Sans");
+    pango_font_description_set_absolute_size(font, 11 * PANGO_SCALE);
+    pango_layout_set_font_description(layout, font);
+    const int cols = kClientWidth / kColWidth + 1;
+    const int rows = kClientHeight / kRowHeight + 1;
+    char text[16];
+
+    for (auto _ : state) {
+        cairo_set_source_rgb(cr, 1, 1, 1);
+        cairo_paint(cr);
+        cairo_set_source_rgb(cr, 0.83, 0.82, 0.78);
+        cairo_rectangle(cr, 0, 0, kClientWidth, kRowHeight);
+        cairo_rectangle(cr, 0, 0, kColWidth, kClientHeight);
+        cairo_fill(cr);
+        cairo_set_line_width(cr, 1);
+        // Raised edges of the fixed cells, then the grid lines.
+        for (int row = 0; row < rows; row++) {
+            for (int col = 0; col < cols; col++) {
+                if (row != 0 && col != 0) {
+                    continue;
+                }
+                const double x = col * kColWidth + 0.5;
+                const double y = row * kRowHeight + 0.5;
+                cairo_set_source_rgb(cr, 1, 1, 1);
+                cairo_move_to(cr, x + kColWidth - 1, y);
+                cairo_line_to(cr, x, y);
+                cairo_line_to(cr, x, y + kRowHeight - 1);
+                cairo_stroke(cr);
+                cairo_set_source_rgb(cr, 0.25, 0.25, 0.25);
+                cairo_move_to(cr, x + kColWidth - 1, y);
+                cairo_line_to(cr, x + kColWidth - 1, y + kRowHeight - 1);
+                cairo_line_to(cr, x, y + kRowHeight - 1);
+                cairo_stroke(cr);
+            }
+        }
+        cairo_set_source_rgb(cr, 0.75, 0.75, 0.75);
+        for (int col = 1; col < cols; col++) {
+            cairo_move_to(cr, (col + 1) * kColWidth - 0.5, kRowHeight);
+            cairo_line_to(cr, (col + 1) * kColWidth - 0.5, kClientHeight);
+        }
+        for (int row = 1; row < rows; row++) {
+            cairo_move_to(cr, kColWidth, (row + 1) * kRowHeight - 0.5);
+            cairo_line_to(cr, kClientWidth, (row + 1) * kRowHeight - 0.5);
+        }
+        cairo_stroke(cr);
+        cairo_set_source_rgb(cr, 0, 0, 0);
+        for (int row = 0; row < rows; row++) {
+            for (int col = 0; col < cols; col++) {
+                std::snprintf(text, sizeof(text), "%d.%02d", row, col);
+                pango_layout_set_text(layout, text, -1);
+                PangoRectangle logical;
+                pango_layout_get_pixel_extents(layout, nullptr, &logical);
+                const int x = col * kColWidth + 4;
+                const int y = row * kRowHeight + (kRowHeight - logical.height) / 2;
+                cairo_save(cr);
+                cairo_rectangle(cr, col * kColWidth + 1, row * kRowHeight + 1, kColWidth - 2,
+                                kRowHeight - 2);
+                cairo_clip(cr);
+                cairo_move_to(cr, x, y);
+                pango_cairo_show_layout(cr, layout);
+                cairo_restore(cr);
+            }
+        }
+        cairo_surface_flush(surface);
+    }
+    pango_font_description_free(font);
+    cairo_font_options_destroy(options);
+    g_object_unref(layout);
+    cairo_destroy(cr);
+    cairo_surface_destroy(surface);
+}
+BENCHMARK(BM_RawCairoRepaint)->Unit(benchmark::kMillisecond);
+
+BOOL AnswerVirtualCell(GV_DISPINFO* request, LPARAM) {
+    request->item.text.Format("%d.%02d", request->item.row, request->item.col);
+    return TRUE;
+}
+
+void BM_VirtualPageScroll(benchmark::State& state) {
+    GridWindow window(0);
+    CGridCtrl& grid = window.grid;
+    grid.SetVirtualMode(TRUE);
+    grid.SetCallbackFunc(AnswerVirtualCell, 0);
+    grid.SetDefCellHeight(kRowHeight);
+    grid.SetRowCount(1000000);
+    grid.SetColumnCount(kCols);
+    grid.SetFixedRowCount(1);
+    grid.SetFixedColumnCount(1);
+    for (int col = 0; col < kCols; col++) {
+        grid.SetColumnWidth(col, kColWidth);
+    }
+    grid.SendMessage(WM_SIZE);
+    grid.SetScrollPos32(SB_VERT, 500000 * kRowHeight);
+    window.Repaint();
+    bool down = true;
+    for (auto _ : state) {
+        grid.SendMessage(WM_VSCROLL, down ? SB_PAGEDOWN : SB_PAGEUP);
+        grid.UpdateWindow();
+        down = !down;
+    }
+    state.counters["top row"] = grid.GetVisibleNonFixedCellRange().minRow;
+}
+BENCHMARK(BM_VirtualPageScroll)->Unit(benchmark::kMillisecond);
+
+} // namespace
