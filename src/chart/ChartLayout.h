@@ -76,7 +76,7 @@ struct ChartFrame {
     }
 };
 
-CanvasFont ChartFont(const ChartProperties& properties, double size, bool bold = false);
+ORVA_API CanvasFont ChartFont(const ChartProperties& properties, double size, bool bold = false);
 ChartFrame LayoutChart(const Canvas& measure, const ChartProperties& properties, int width,
                        int height, const std::optional<ChartZoom>& zoom);
 int CurveColour(const ChartProperties& properties, int curve);

@@ -109,9 +109,12 @@ std::string DateLabel(double serial, const DateStep& step, int style) {
             std::snprintf(time, sizeof time, "%02d:%02d:%02d", f.hour, f.minute, f.second);
         else
             std::snprintf(time, sizeof time, "%02d:%02d", f.hour, f.minute);
+        // A time alone would lose the day: midnight ticks name the date instead.
         if (style == 8)
             std::snprintf(text, sizeof text, "%d %s %d\n%s", f.day, kMonths[f.month - 1], f.year,
                           time);
+        else if (f.hour == 0 && f.minute == 0 && f.second == 0)
+            std::snprintf(text, sizeof text, "%d %s %d", f.day, kMonths[f.month - 1], f.year);
         else
             std::snprintf(text, sizeof text, "%s", time);
     }
