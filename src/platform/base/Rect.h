@@ -15,6 +15,7 @@ public:
     constexpr CSize(int x, int y) : SIZE{x, y} {}
     constexpr CSize(SIZE s) : SIZE(s) {}
     constexpr bool operator==(const SIZE& s) const { return cx == s.cx && cy == s.cy; }
+    constexpr bool operator==(const CSize& s) const { return cx == s.cx && cy == s.cy; }
     constexpr bool operator!=(const SIZE& s) const { return !(*this == s); }
     constexpr CSize operator+(SIZE s) const { return CSize(cx + s.cx, cy + s.cy); }
     constexpr CSize operator-(SIZE s) const { return CSize(cx - s.cx, cy - s.cy); }
@@ -33,6 +34,7 @@ public:
     constexpr void Offset(POINT p) { Offset(p.x, p.y); }
     constexpr void SetPoint(int nx, int ny) { x = nx, y = ny; }
     constexpr bool operator==(const POINT& p) const { return x == p.x && y == p.y; }
+    constexpr bool operator==(const CPoint& p) const { return x == p.x && y == p.y; }
     constexpr bool operator!=(const POINT& p) const { return !(*this == p); }
     constexpr CPoint operator+(SIZE s) const { return CPoint(x + s.cx, y + s.cy); }
     constexpr CPoint operator+(POINT p) const { return CPoint(x + p.x, y + p.y); }
@@ -124,6 +126,7 @@ public:
     constexpr bool operator==(const RECT& r) const {
         return left == r.left && top == r.top && right == r.right && bottom == r.bottom;
     }
+    constexpr bool operator==(const CRect& r) const { return *this == static_cast<const RECT&>(r); }
     constexpr bool operator!=(const RECT& r) const { return !(*this == r); }
     constexpr void operator+=(POINT p) { OffsetRect(p); }
     constexpr void operator-=(POINT p) { OffsetRect(-p.x, -p.y); }

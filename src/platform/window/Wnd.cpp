@@ -20,6 +20,7 @@ struct CWndAccess {
         Bind(wnd, w);
         wnd->m_pfnSuper = w.proc == AfxWndProc ? nullptr : w.proc;
         w.proc = AfxWndProc;
+        wnd->PreSubclassWindow();
     }
     static WNDPROC Super(const CWnd* wnd) { return wnd->m_pfnSuper; }
     static void MakeTemporary(CWnd* wnd, HWND hwnd) {
@@ -214,6 +215,8 @@ BOOL CWnd::DestroyWindow() {
 }
 
 void CWnd::PostNcDestroy() {}
+
+void CWnd::PreSubclassWindow() {}
 
 // The tree.
 CWnd* CWnd::GetParent() const {

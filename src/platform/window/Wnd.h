@@ -53,6 +53,9 @@ public:
                   int width, int height, HWND parent, HMENU idOrMenu, LPVOID createParam = nullptr);
     virtual BOOL DestroyWindow();
     virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
+    // Called once the object is bound to its window, whether it created the window or
+    // subclassed an existing one, before any message of the window reaches the object.
+    virtual void PreSubclassWindow();
 
     // The tree.
     CWnd* GetParent() const;
