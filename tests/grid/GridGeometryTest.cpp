@@ -244,3 +244,35 @@ TEST_F(GridGeometryTest, AutoSizeFitsTheTextAndLeavesHiddenColumnsHidden) {
     grid.AutoSizeRows();
     EXPECT_GT(grid.GetRowHeight(1), 0);
 }
+
+TEST_F(GridGeometryTest, PageStepsTakeTheScrollingPartOfTheClientAndStopAtTheEnds) {
+    Open(100, 4);
+    const int page = Client().Height() - kHeight;
+    grid.SendMessage(WM_VSCROLL, SB_PAGEDOWN);
+    EXPECT_EQ(grid.GetScrollPos32(SB_VERT), page);
+    grid.SendMessage(WM_VSCROLL, SB_PAGEUP);
+    grid.SendMessage(WM_VSCROLL, SB_PAGEUP);
+    EXPECT_EQ(grid.GetScrollPos32(SB_VERT), 0);
+    grid.SendMessage(WM_VSCROLL, SB_BOTTOM);
+    const CCellRange visible = grid.GetVisibleNonFixedCellRange();
+    EXPECT_EQ(visible.maxRow, 99);
+    EXPECT_TRUE(grid.IsCellVisible(99, 1));
+    // The fixed row stays in place whatever the position.
+    EXPECT_EQ(At(grid, 60, 5), CCellID(0, 1));
+}
+
+TEST_F(GridGeometryTest, FittingRowsToTheWindowShowsHiddenRowsAndAutoSizeKeepsUnmeasuredRows) {
+    Open(5, 3, 300, 200);
+    grid.SetRowHeight(2, 0);
+    grid.ExpandRowsToFit(FALSE);
+    EXPECT_GT(grid.GetRowHeight(2), 0) << "hidden rows share the room";
+    EXPECT_EQ(grid.GetRowHeight(0), kHeight);
+    EXPECT_EQ(grid.GetVirtualHeight(), Client().Height());
+
+    grid.SetRowHeight(3, 45);
+    grid.SetItemText(0, 1, "heading");
+    grid.AutoSize(GVS_HEADER);
+    EXPECT_EQ(grid.GetRowHeight(3), 45) << "only the fixed rows were measured";
+    EXPECT_NE(grid.GetRowHeight(0), kHeight);
+    EXPECT_GT(grid.GetColumnWidth(1), grid.GetColumnWidth(2));
+}
