@@ -2,6 +2,7 @@
 
 #include "GridOnScreen.h"
 
+#include "platform/system/SystemMetrics.h"
 #include "platform/system/UserSettings.h"
 #include "platform/testing/NotificationRecorder.h"
 
@@ -275,4 +276,18 @@ TEST_F(GridGeometryTest, FittingRowsToTheWindowShowsHiddenRowsAndAutoSizeKeepsUn
     EXPECT_EQ(grid.GetRowHeight(3), 45) << "only the fixed rows were measured";
     EXPECT_NE(grid.GetRowHeight(0), kHeight);
     EXPECT_GT(grid.GetColumnWidth(1), grid.GetColumnWidth(2));
+}
+
+TEST_F(GridGeometryTest, DraggingTheThumbScrollsToItsTrackPosition) {
+    Open(200, 4);
+    const CRect client = Client();
+    const int bar = client.right + 8;
+    const int thumbTop = GetSystemMetrics(SM_CYVSCROLL) + 3;
+    ui.Drag(grid.GetSafeHwnd(), CPoint(bar, thumbTop), CPoint(bar, thumbTop + 60));
+    const int position = grid.GetScrollPos32(SB_VERT);
+    EXPECT_GT(position, 10 * kHeight) << "moved by the thumb, not by a line";
+    // The first row in view is the first whose top is at or past the position.
+    const int expectedRow = 1 + (position + kHeight - 1) / kHeight;
+    EXPECT_EQ(grid.GetTopleftNonFixedCell(), CCellID(expectedRow, 1));
+    EXPECT_EQ(grid.GetVisibleNonFixedCellRange().minRow, expectedRow);
 }
