@@ -4,9 +4,12 @@
 #include "GridOnScreen.h"
 
 #include "platform/gdi/Bitmap.h"
+#include "platform/gdi/ImageList.h"
 #include "platform/system/SysColors.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <iterator>
 
 namespace {
 
@@ -18,8 +21,9 @@ bool Near(COLORREF a, COLORREF b, int tolerance = 40) {
            std::abs(GetBValue(a) - GetBValue(b)) <= tolerance;
 }
 
+// Ink of black text: every channel dark, so that a saturated colour does not count.
 bool Dark(COLORREF color) {
-    return GetRValue(color) + GetGValue(color) + GetBValue(color) < 3 * 128;
+    return GetRValue(color) < 128 && GetGValue(color) < 128 && GetBValue(color) < 128;
 }
 
 // The pixels of cell (row, col) of an unscrolled grid, shrunk by `inset` on all sides.
@@ -186,4 +190,39 @@ TEST_F(GridPaintingTest, AFullRepaintDrawsTheSelectedFocusCellInTheSelectionColo
     const CRect focus = Cell(8, 4);
     EXPECT_EQ(Pixel(focus.left + 3, focus.top + 3), GetSysColor(COLOR_HIGHLIGHT));
     EXPECT_EQ(Pixel(focus.left, focus.top), GetSysColor(COLOR_HIGHLIGHTTEXT));
+}
+
+TEST_F(GridPaintingTest, AnImageComesBeforeTheTextAndMovesIt) {
+    Open(4, 4);
+    grid.SetColumnWidth(1, 120);
+    COLORREF red[16 * 16];
+    std::fill(std::begin(red), std::end(red), RGB(255, 0, 0));
+    RegisterBitmapResource("GRID_TEST_IMAGE", 16, 16, red);
+    CBitmap picture;
+    ASSERT_TRUE(picture.LoadBitmap("GRID_TEST_IMAGE"));
+    CImageList images;
+    ASSERT_TRUE(images.Create(16, 16, ILC_COLOR32 | ILC_MASK, 1, 1));
+    ASSERT_EQ(images.Add(&picture, RGB(255, 0, 255)), 0);
+    grid.SetImageList(&images);
+    grid.SetItemText(1, 1, "W");
+    grid.SetItemImage(1, 1, 0);
+
+    const int margin = grid.GetDefCellMargin();
+    CRect text;
+    ASSERT_TRUE(grid.GetTextRect(1, 1, &text));
+    EXPECT_EQ(text.left, 50 + margin + 16 + 1);
+    const CSize plain = grid.GetCell(1, 2)->GetCellExtent(nullptr);
+    grid.SetItemText(1, 2, "W");
+    EXPECT_EQ(grid.GetCell(1, 1)->GetCellExtent(nullptr).cx,
+              grid.GetCell(1, 2)->GetCellExtent(nullptr).cx + 16);
+    EXPECT_GT(plain.cx, 0);
+
+    grid.Invalidate();
+    EXPECT_EQ(Pixel(50 + margin + 4, 20 + 4), RGB(255, 0, 0));
+    // The text starts after the picture.
+    EXPECT_EQ(CountPixels(CRect(50, 21, 50 + margin + 16, 39), [](COLORREF c) { return Dark(c); }),
+              0);
+    EXPECT_GT(CountPixels(CRect(50 + margin + 16, 21, 169, 39), [](COLORREF c) { return Dark(c); }),
+              0);
+    grid.SetImageList(nullptr);
 }
