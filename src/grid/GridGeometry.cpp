@@ -62,6 +62,8 @@ BOOL CGridCtrl::CellOrigin(int row, int col, CPoint& origin) {
     return TRUE;
 }
 
+// Merging does not move a cell's origin, and a cell scrolled away has none, so both forms
+// answer alike.
 BOOL CGridCtrl::GetCellOrigin(int row, int col, LPPOINT point) {
     return GetCellOriginNoMerge(row, col, point);
 }
