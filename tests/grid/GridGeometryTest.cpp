@@ -291,3 +291,26 @@ TEST_F(GridGeometryTest, DraggingTheThumbScrollsToItsTrackPosition) {
     EXPECT_EQ(grid.GetTopleftNonFixedCell(), CCellID(expectedRow, 1));
     EXPECT_EQ(grid.GetVisibleNonFixedCellRange().minRow, expectedRow);
 }
+
+TEST_F(GridGeometryTest, WrappedTextIsMeasuredByLinesAndAVerticalFontTurnsTheExtent) {
+    Open(3, 3);
+    grid.SetItemText(1, 2, "first line");
+    grid.SetItemText(1, 1, "first line\nsecond");
+    grid.SetItemFormat(1, 1, DT_LEFT | DT_WORDBREAK);
+    const CSize single = grid.GetCell(1, 2)->GetCellExtent(nullptr);
+    const CSize wrapped = grid.GetCell(1, 1)->GetCellExtent(nullptr);
+    EXPECT_GT(wrapped.cy, single.cy + 5);
+    EXPECT_GE(wrapped.cx, single.cx);
+    EXPECT_LE(wrapped.cx, single.cx + 2);
+
+    LOGFONT vertical = *grid.GetItemFont(2, 1);
+    vertical.lfEscapement = 900;
+    grid.SetItemFont(2, 1, &vertical);
+    grid.SetItemText(2, 1, "abc");
+    grid.SetItemText(2, 2, "abc");
+    const CSize across = grid.GetCell(2, 2)->GetCellExtent(nullptr);
+    const CSize turned = grid.GetCell(2, 1)->GetCellExtent(nullptr);
+    const int margin = grid.GetDefCellMargin();
+    EXPECT_EQ(turned.cx, across.cy);
+    EXPECT_EQ(turned.cy, across.cx + 4 * margin);
+}
