@@ -4,12 +4,17 @@
 #include "grid/GridCtrl.h"
 
 void CGridCtrl::MergeCells(int minRow, int minCol, int maxRow, int maxCol) {
+    // Blocks live in stored cells. The made-up cell of virtual mode is one object for every
+    // position, so marking it would hide them all.
+    if (m_virtualMode) {
+        return;
+    }
     const CCellID topLeft(minRow, minCol);
     for (int row = minRow; row <= maxRow; row++) {
         for (int col = minCol; col <= maxCol; col++) {
             CGridCellBase* cell = GetCell(row, col);
             if (cell == nullptr) {
-                continue; // a block is for stored cells; virtual mode has none
+                continue;
             }
             cell->Show(false);
             if (CCellID(row, col) == topLeft) {
@@ -25,6 +30,9 @@ void CGridCtrl::MergeCells(int minRow, int minCol, int maxRow, int maxCol) {
 void CGridCtrl::UnMergeCells(int minRow, int minCol, int maxRow, int maxCol) {
     // A block dissolves only through its top-left cell; a covered cell in the range is freed
     // alone.
+    if (m_virtualMode) {
+        return;
+    }
     for (int row = minRow; row <= maxRow; row++) {
         for (int col = minCol; col <= maxCol; col++) {
             CGridCellBase* cell = GetCell(row, col);

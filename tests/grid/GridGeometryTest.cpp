@@ -118,6 +118,17 @@ TEST_F(GridGeometryTest, SelectionOfOneCellIsNotMerged) {
     EXPECT_FALSE(grid.GetCell(2, 3)->IsMergeWithOthers());
 }
 
+TEST_F(GridGeometryTest, VirtualModeHasNoBlocks) {
+    Open(3, 3);
+    grid.SetVirtualMode(TRUE);
+    grid.SetRowCount(50);
+    grid.SetColumnCount(5);
+    grid.MergeCells(1, 1, 2, 2);
+    EXPECT_TRUE(grid.GetCell(1, 1)->IsShow());
+    EXPECT_FALSE(grid.GetCell(1, 1)->IsMerged());
+    EXPECT_TRUE(grid.GetCell(4, 4)->IsShow()) << "the one made-up cell is not marked";
+}
+
 TEST_F(GridGeometryTest, ScrollRangesCoverTheNonFixedPartAndVanishWhenAllFits) {
     Open(4, 4);
     EXPECT_FALSE(grid.IsVisibleHScroll());
