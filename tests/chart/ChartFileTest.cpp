@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 
 #include <string>
 
@@ -97,10 +96,8 @@ namespace {
 
 // A file written by the first version of the format must stay readable as it was written.
 TEST(ChartFile, ReadsTheVersionOneFixture) {
-    const char* data = std::getenv("ORVA_TEST_DATA");
-    ASSERT_NE(data, nullptr);
     std::map<int, PropertyValue> loaded;
-    ASSERT_TRUE(LoadChartFile((std::string(data) + "/chart/rating-v1.chart").c_str(), loaded));
+    ASSERT_TRUE(LoadChartFile(ORVA_TEST_DATA_DIR "/chart/rating-v1.chart", loaded));
     ChartProperties p;
     p.Replace(loaded);
     EXPECT_EQ(p.Text(2105), "Rating curve");
