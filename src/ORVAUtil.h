@@ -1,0 +1,58 @@
+#pragma once
+
+// Every public header of ORVAUtil, for an application that wants the whole library at once.
+
+// The window framework.
+#include "platform/base/Exceptions.h"
+#include "platform/base/Messages.h"
+#include "platform/base/Object.h"
+#include "platform/base/Rect.h"
+#include "platform/base/String.h"
+#include "platform/base/StringArray.h"
+#include "platform/base/WinTypes.h"
+#include "platform/gdi/Bitmap.h"
+#include "platform/gdi/Brush.h"
+#include "platform/gdi/DC.h"
+#include "platform/gdi/Font.h"
+#include "platform/gdi/GdiObject.h"
+#include "platform/gdi/GdiTypes.h"
+#include "platform/gdi/ImageList.h"
+#include "platform/gdi/Pen.h"
+#include "platform/gdi/Rgn.h"
+#include "platform/host/Clipboard.h"
+#include "platform/host/GlobalMemory.h"
+#include "platform/system/SysColors.h"
+#include "platform/system/SystemMetrics.h"
+#include "platform/system/SystemParameters.h"
+#include "platform/window/MessageBox.h"
+#include "platform/window/WindowApi.h"
+#include "platform/window/WindowDC.h"
+#include "platform/window/WindowStyles.h"
+#include "platform/window/Wnd.h"
+
+// The charting engine's operations.
+#include "chart/ChartApi.h"
+
+// Grid.
+#include "grid/CellRange.h"
+#include "grid/GridCell.h"
+#include "grid/GridCellBase.h"
+#include "grid/GridCtrl.h"
+#include "grid/GridDefaultCell.h"
+#include "grid/GridItem.h"
+#include "grid/GridNotify.h"
+
+// Plot.
+#include "plot/PlotData.h"
+
+// Support.
+#include "support/DataReader.h"
+#include "support/FormatDouble.h"
+#include "support/HelpDocument.h"
+#include "support/MUcolor.h"
+#include "support/MemDC.h"
+#include "support/PathNames.h"
+#include "support/ProcessLaunch.h"
+#include "support/Pt2.h"
+#include "support/StdStr.h"
+#include "support/TempFiles.h"
