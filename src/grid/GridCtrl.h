@@ -352,6 +352,9 @@ protected:
     virtual void OnEditCell(int row, int col, CPoint point, UINT ch);
     virtual void OnEndEditCell(int row, int col, CString text);
     virtual BOOL ValidateEdit(int row, int col, LPCTSTR text);
+    // The last step of a change of text: the cell validates it and the application may refuse
+    // it; a refused text is put back to oldText.
+    void AcceptOrRollBackEdit(int row, int col, LPCTSTR text, const CString& oldText);
     virtual void EndEditing();
     virtual void OnDraw(CDC* dc);
     virtual CGridCellBase* CreateCell(int row, int col);

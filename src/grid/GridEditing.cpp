@@ -12,12 +12,17 @@ void CGridCtrl::ValidateAndModifyCellContents(int row, int col, LPCTSTR text) {
         return;
     }
     SetItemText(row, col, text);
+    AcceptOrRollBackEdit(row, col, text, oldText);
+}
+
+void CGridCtrl::AcceptOrRollBackEdit(int row, int col, LPCTSTR text, const CString& oldText) {
     if (ValidateEdit(row, col, text) &&
         SendMessageToParent(row, col, GV_NOTIFY_ENDLABELEDIT) >= 0) {
         OnCellChanged(row, col);
         SetModified(TRUE, row, col);
         RedrawCell(row, col);
     } else {
+        // A modified flag set on the way stays: a refused edit leaves the cell marked.
         SetItemText(row, col, oldText);
     }
 }
@@ -42,15 +47,7 @@ void CGridCtrl::OnEndEditCell(int row, int col, CString text) {
             cell->SetText(text);
             SetModified(TRUE, row, col);
         }
-        if (ValidateEdit(row, col, text) &&
-            SendMessageToParent(row, col, GV_NOTIFY_ENDLABELEDIT) >= 0) {
-            OnCellChanged(row, col);
-            SetModified(TRUE, row, col);
-            RedrawCell(row, col);
-        } else {
-            // The modified flag stays: a refused edit leaves the cell marked.
-            SetItemText(row, col, oldText);
-        }
+        AcceptOrRollBackEdit(row, col, text, oldText);
     }
     if (CGridCellBase* cell = GetCell(row, col)) {
         cell->OnEndEdit();
