@@ -22,15 +22,16 @@ public:
     CStdStr(Base&& text) noexcept : Base(std::move(text)) {}
 
     // Replaces the content with the formatted text. Larger buffers are tried while the text
-    // does not fit; beyond the last one the text is cut.
-    void Format(const CT* format, ...) __attribute__((format(printf, 2, 3))) {
+    // does not fit; beyond the last one the text is cut. Formatting is of bytes: only the
+    // char instantiation is used.
+    void Format(const char* format, ...) __attribute__((format(printf, 2, 3))) {
         va_list arguments;
         va_start(arguments, format);
         FormatV(format, arguments);
         va_end(arguments);
     }
 
-    void FormatV(const CT* format, va_list arguments) {
+    void FormatV(const char* format, va_list arguments) {
         static constexpr int kBufferSizes[] = {2049, 6145, 12289, 20481, 30721, 43009};
         for (int size : kBufferSizes) {
             Base buffer(size_t(size), CT{});
