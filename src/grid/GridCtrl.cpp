@@ -74,15 +74,17 @@ BOOL CGridCtrl::Create(const RECT& rect, CWnd* parent, UINT id, DWORD style) {
     if (!CWnd::Create(GRIDCTRL_CLASSNAME, nullptr, style, rect, parent, id)) {
         return FALSE;
     }
-    // The framework attaches the window before its first message; this is where the grid
-    // takes its parent's font.
-    Initialise();
     Allocating([this] {
         m_rowHeights.assign(size_t(m_rowCount), UINT(m_cellDefault.GetHeight()));
         m_colWidths.assign(size_t(m_colCount), UINT(m_cellDefault.GetWidth()));
     });
     ResetScrollBars();
     return TRUE;
+}
+
+void CGridCtrl::PreSubclassWindow() {
+    CWnd::PreSubclassWindow();
+    Initialise();
 }
 
 void CGridCtrl::Initialise() {

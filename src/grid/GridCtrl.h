@@ -370,7 +370,8 @@ protected:
     void OnVScroll(UINT code, UINT position, CScrollBar* scrollBar) override;
     BOOL OnMouseWheel(UINT flags, short delta, CPoint point) override;
 
-    // Window glue.
+    // Window glue. Every window the grid is bound to, created or subclassed, is initialised.
+    void PreSubclassWindow() override;
     void Initialise();
     void SetupDefaultCells();
     void OnSysColorChange() override;

@@ -112,6 +112,24 @@ TEST_F(GridWindowTest, TakesItsParentsFontAndItsMeasure) {
     EXPECT_EQ(other.GetRowHeight(1), other.GetDefCellHeight());
 }
 
+TEST_F(GridWindowTest, TakesOverAPlaceholderWindowWithItsParentsFont) {
+    CRecordingParent host;
+    LOGFONT big{};
+    big.lfHeight = -28;
+    std::strcpy(big.lfFaceName, "Arial");
+    CFont font;
+    ASSERT_TRUE(font.CreateFontIndirect(&big));
+    host.SetFont(&font);
+    const HWND placeholder = ::CreateWindowEx(
+        0, GRIDCTRL_CLASSNAME, "", WS_CHILD | WS_VISIBLE, 0, 0, 200, 100, host.GetSafeHwnd(),
+        reinterpret_cast<HMENU>(UINT_PTR(77)), nullptr, nullptr);
+    ASSERT_NE(placeholder, nullptr);
+    CGridCtrl other(2, 2);
+    ASSERT_TRUE(other.SubclassDlgItem(77, &host));
+    EXPECT_EQ(other.GetDefaultCell(TRUE, TRUE)->GetFont()->lfHeight, -28);
+    EXPECT_TRUE(other.GetExStyle() & WS_EX_CLIENTEDGE);
+}
+
 TEST_F(GridWindowTest, SystemColourChangesReachOnlyColoursStillAtTheSystemValue) {
     grid.GetDefaultCell(TRUE, FALSE)->SetTextClr(RGB(200, 0, 0));
     const int elements[] = {COLOR_WINDOWTEXT, COLOR_WINDOW, COLOR_3DFACE, COLOR_3DSHADOW};
