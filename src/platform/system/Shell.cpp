@@ -83,7 +83,11 @@ std::string FindInPath(const std::string& program) {
     return {};
 }
 
-int CommandForDocument(const std::string& path, std::vector<std::string>& command) {
+// Finds the document and the command line of the application that opens it.
+int CommandToOpen(const char* file, const char* directory, std::string& path,
+                  std::vector<std::string>& command) {
+    if (const int code = LocateDocument(file, directory, path); code != kSuccess)
+        return code;
     const auto entry = DefaultApplicationFor(MimeTypeOfName(path));
     if (!entry)
         return SE_ERR_NOASSOC;
@@ -100,10 +104,7 @@ HINSTANCE ShellExecuteA(HWND, const char* verb, const char* file, const char*,
             return AsResult(SE_ERR_NOASSOC);
         std::string path;
         std::vector<std::string> command;
-        int code = LocateDocument(file, directory, path);
-        if (code == kSuccess)
-            code = CommandForDocument(path, command);
-        if (code != kSuccess)
+        if (const int code = CommandToOpen(file, directory, path, command); code != kSuccess)
             return AsResult(code);
         const pid_t child = SpawnProgram(command, NativeDirectory(directory));
         if (child < 0)
@@ -122,10 +123,7 @@ HINSTANCE FindExecutableA(const char* file, const char* directory, char* result)
         *result = '\0';
         std::string path;
         std::vector<std::string> command;
-        int code = LocateDocument(file, directory, path);
-        if (code == kSuccess)
-            code = CommandForDocument(path, command);
-        if (code != kSuccess)
+        if (const int code = CommandToOpen(file, directory, path, command); code != kSuccess)
             return AsResult(code);
         const std::string program = FindInPath(command.front());
         if (program.empty())
