@@ -20,6 +20,7 @@ build: deps $(BUILD)/build.ninja
 
 demo: build
 	$(BUILD)/apps/gallery/gallery --out $(GALLERY_OUT)
+	@if [ -n "$$DISPLAY" ]; then $(BUILD)/apps/gallery/gallery --window --out $(GALLERY_OUT); fi
 
 test: build
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)

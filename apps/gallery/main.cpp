@@ -1,7 +1,8 @@
 // The gallery: builds every registered page in order. Headless (the default), it writes each
 // window a page captures to <out>/<name>.png and prints the page's report; with --window it
-// will show the pages on a display once a display host is installed.
+// then keeps the pages' windows on the display until the user closes them.
 
+#include "GalleryDisplay.h"
 #include "GalleryPage.h"
 
 #include "platform/host/Host.h"
@@ -12,8 +13,10 @@
 
 #include <cstdarg>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <optional>
 #include <string>
 
 namespace {
@@ -21,7 +24,8 @@ namespace {
 struct Options {
     std::string outputFolder = "gallery-out";
     bool window = false;
-    std::string only; // a page id prefix, to build a single page
+    std::optional<double> shotsAfter; // seconds on the display before reading it back
+    std::string only;                 // a page id prefix, to build a single page
 };
 
 class HeadlessGalleryContext : public GalleryContext {
@@ -74,12 +78,32 @@ bool ParseOptions(int argc, char** argv, Options& options) {
             options.only = argv[++i];
         else if (arg == "--window")
             options.window = true;
+        else if (arg == "--shots-after" && i + 1 < argc)
+            options.shotsAfter = std::atof(argv[++i]);
         else {
-            std::fprintf(stderr, "usage: gallery [--out folder] [--page id] [--window]\n");
+            std::fprintf(stderr, "usage: gallery [--out folder] [--page id] "
+                                 "[--window [--shots-after seconds]]\n");
             return false;
         }
     }
     return true;
+}
+
+// Builds the pages in order. Message boxes take their default button and are reported, so a
+// page never stops; on a display, the boxes the user causes afterwards are real ones.
+void BuildPages(HeadlessGalleryContext& context, const Options& options) {
+    MessageBoxResponder boxes;
+    for (const GalleryPage& page : GalleryPages()) {
+        if (!options.only.empty() && std::string(page.id).rfind(options.only, 0) != 0)
+            continue;
+        context.Print("== %s: %s", page.id, page.title);
+        const int before = boxes.Count();
+        page.build(context);
+        PumpMessages();
+        for (int i = before; i < boxes.Count(); ++i)
+            context.Print("message box \"%s\" answered %d", boxes.Boxes()[size_t(i)].text.c_str(),
+                          boxes.Boxes()[size_t(i)].answer);
+    }
 }
 
 // Ends the windows the pages kept, while the objects that own them (often statics) still live.
@@ -96,8 +120,10 @@ int main(int argc, char** argv) {
     Options options;
     if (!ParseOptions(argc, argv, options))
         return 2;
-    if (options.window)
-        std::fprintf(stderr, "gallery: no display host is available; running headless\n");
+    if (options.window && !OpenGalleryDisplay()) {
+        std::fprintf(stderr, "gallery: no display found; writing pictures only\n");
+        options.window = false;
+    }
 
     std::error_code error;
     std::filesystem::create_directories(options.outputFolder, error);
@@ -108,20 +134,10 @@ int main(int argc, char** argv) {
     }
 
     HeadlessGalleryContext context(options.outputFolder);
-    // Message boxes take their default button and are reported, so a page never stops.
-    MessageBoxResponder boxes;
-    for (const GalleryPage& page : GalleryPages()) {
-        if (!options.only.empty() && std::string(page.id).rfind(options.only, 0) != 0)
-            continue;
-        context.Print("== %s: %s", page.id, page.title);
-        const int before = boxes.Count();
-        page.build(context);
-        PumpMessages();
-        for (int i = before; i < boxes.Count(); ++i)
-            context.Print("message box \"%s\" answered %d", boxes.Boxes()[size_t(i)].text.c_str(),
-                          boxes.Boxes()[size_t(i)].answer);
-    }
+    BuildPages(context, options);
     context.Print("%d pictures in %s", context.Captures(), options.outputFolder.c_str());
+    const int exitCode =
+        options.window ? RunGalleryOnDisplay({options.shotsAfter, options.outputFolder}) : 0;
     CloseAllWindows();
-    return 0;
+    return exitCode;
 }

@@ -1,0 +1,77 @@
+#pragma once
+
+// The display host: each visible top-level window is a real SDL window showing the window's
+// surface, time is the system's, input comes from the display and the clipboard is the
+// system's. The window manager stays the one authority on geometry: what the user does to a
+// window (moving, resizing, closing) goes back to it as the framework's calls and messages.
+
+#include "platform/host/Host.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <vector>
+
+struct SDL_Window;
+struct SDL_Renderer;
+struct SDL_Texture;
+struct SDL_Cursor;
+union SDL_Event;
+
+class ORVA_API SdlHost : public Host {
+public:
+    SdlHost(); // SDL's video must be initialised; UseSdlHostIfDisplay does that
+    ~SdlHost() override;
+
+    const char* Name() const override { return "sdl"; }
+
+    Surface* CreateWindowSurface(HWND window, const RECT& screenRect) override;
+    Surface* GetWindowSurface(HWND window) override;
+    void MoveWindowSurface(HWND window, const RECT& screenRect) override;
+    void DestroyWindowSurface(HWND window) override;
+    void ShowWindowSurface(HWND window, bool show) override;
+    void SetWindowTitle(HWND window, const char* title) override;
+    // Marks the window for showing; the pixels go to the display before the host next waits,
+    // so that a burst of paints costs one upload.
+    void Present(HWND window) override;
+
+    DWORD Now() const override;
+    bool AdvanceClock(DWORD) override { return false; }
+    bool WaitForEvents(std::optional<DWORD> deadline) override;
+
+    void SetClipboardText(const std::string& text) override;
+    std::optional<std::string> GetClipboardText() override;
+
+    void SetCursorShape(HCURSOR cursor) override;
+    int ShowMessageBox(HWND owner, const char* text, const char* caption, UINT type) override;
+
+    // Shows every window marked by Present now.
+    void PresentPending();
+    // What the display shows of a window, as 32-bit ARGB pixels row by row; empty when the
+    // window has no SDL window. Width and height are the surface's.
+    std::vector<std::uint32_t> ReadPresentedPixels(HWND window);
+    bool SavePresentedPng(HWND window, const char* path);
+    // The SDL window id of a top-level window (0 if it has none), for tests that push events.
+    std::uint32_t SdlWindowId(HWND window) const;
+
+private:
+    struct Window;
+
+    Window* Find(HWND window);
+    HWND FromSdlId(std::uint32_t id) const;
+    void Render(Window& w);
+    void Deliver(const SDL_Event& event);
+    void DeliverWindowEvent(HWND hwnd, const SDL_Event& event);
+    POINT ToScreen(HWND hwnd, int x, int y) const;
+
+    std::map<HWND, std::unique_ptr<Window>> m_windows;
+    std::map<UINT_PTR, SDL_Cursor*> m_cursors;
+    std::uint64_t m_start;
+    // The character that the framework's own layout makes of the last key pressed; the same
+    // character arriving as typed text is not delivered twice.
+    int m_translatedChar = -1;
+};
+
+// Installs the SDL host when a display is there ($DISPLAY or $WAYLAND_DISPLAY set and SDL's
+// video starts); otherwise the headless host stays. Call before the first window is created.
+ORVA_API bool UseSdlHostIfDisplay();
