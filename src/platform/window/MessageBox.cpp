@@ -51,5 +51,5 @@ int MessageBox(HWND owner, const char* text, const char* caption, UINT type) {
 
 int AfxMessageBox(const char* text, UINT type, UINT) {
     CWnd* main = AfxGetMainWnd();
-    return MessageBox(main ? main->GetSafeHwnd() : nullptr, text, ApplicationName(), type);
+    return MessageBox(SafeHwnd(main), text, ApplicationName(), type);
 }

@@ -4,7 +4,7 @@ IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 IMPLEMENT_DYNAMIC(CClientDC, CDC)
 IMPLEMENT_DYNAMIC(CWindowDC, CDC)
 
-CPaintDC::CPaintDC(CWnd* wnd) : m_hWnd(wnd->GetSafeHwnd()) {
+CPaintDC::CPaintDC(CWnd* wnd) : m_hWnd(SafeHwnd(wnd)) {
     Attach(::BeginPaint(m_hWnd, &m_ps));
 }
 
@@ -14,7 +14,7 @@ CPaintDC::~CPaintDC() {
     ::EndPaint(m_hWnd, &m_ps);
 }
 
-CClientDC::CClientDC(CWnd* wnd) : m_hWnd(wnd->GetSafeHwnd()) {
+CClientDC::CClientDC(CWnd* wnd) : m_hWnd(SafeHwnd(wnd)) {
     Attach(::GetDC(m_hWnd));
 }
 
@@ -22,7 +22,7 @@ CClientDC::~CClientDC() {
     ::ReleaseDC(m_hWnd, Detach());
 }
 
-CWindowDC::CWindowDC(CWnd* wnd) : m_hWnd(wnd->GetSafeHwnd()) {
+CWindowDC::CWindowDC(CWnd* wnd) : m_hWnd(SafeHwnd(wnd)) {
     Attach(::GetWindowDC(m_hWnd));
 }
 

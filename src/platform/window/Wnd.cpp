@@ -106,14 +106,6 @@ CWnd::~CWnd() {
     m_hWnd = nullptr;
 }
 
-HWND CWnd::GetSafeHwnd() const {
-    // The framework lets code call this through a null pointer; keep the compiler from
-    // assuming that `this` cannot be null.
-    const CWnd* self = this;
-    asm("" : "+r"(self));
-    return self ? self->m_hWnd : nullptr;
-}
-
 CWnd* CWnd::FromHandlePermanent(HWND hwnd) {
     const WindowRecord* w = Find(hwnd);
     return w ? w->object : nullptr;
@@ -201,7 +193,7 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR windowName, DWORD st
 BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR windowName, DWORD style,
                     const RECT& rect, CWnd* parent, UINT id, LPVOID createParam) {
     return CreateEx(exStyle, className, windowName, style, rect.left, rect.top,
-                    rect.right - rect.left, rect.bottom - rect.top, parent->GetSafeHwnd(),
+                    rect.right - rect.left, rect.bottom - rect.top, SafeHwnd(parent),
                     reinterpret_cast<HMENU>(std::uintptr_t(id)), createParam);
 }
 
@@ -223,7 +215,7 @@ CWnd* CWnd::GetParent() const {
     return FromHandle(::GetParent(m_hWnd));
 }
 CWnd* CWnd::SetParent(CWnd* newParent) {
-    return FromHandle(::SetParent(m_hWnd, newParent->GetSafeHwnd()));
+    return FromHandle(::SetParent(m_hWnd, SafeHwnd(newParent)));
 }
 CWnd* CWnd::GetOwner() const {
     const WindowRecord* w = Find(m_hWnd);
@@ -233,7 +225,7 @@ CWnd* CWnd::GetOwner() const {
 }
 void CWnd::SetOwner(CWnd* owner) {
     if (WindowRecord* w = Find(m_hWnd))
-        w->owner = owner->GetSafeHwnd();
+        w->owner = SafeHwnd(owner);
 }
 CWnd* CWnd::GetTopLevelParent() const {
     const HWND root = ::GetAncestor(m_hWnd, GA_ROOT);
@@ -256,7 +248,7 @@ int CWnd::SetDlgCtrlID(int id) {
     return int(::SetWindowLongPtr(m_hWnd, GWLP_ID, id));
 }
 BOOL CWnd::IsChild(const CWnd* wnd) const {
-    return ::IsChild(m_hWnd, wnd->GetSafeHwnd());
+    return ::IsChild(m_hWnd, SafeHwnd(wnd));
 }
 CWnd* CWnd::ChildWindowFromPoint(POINT point) const {
     return FromHandle(::ChildWindowFromPoint(m_hWnd, point));
@@ -320,7 +312,7 @@ void CWnd::MoveWindow(LPCRECT rect, BOOL repaint) {
                  repaint);
 }
 BOOL CWnd::SetWindowPos(const CWnd* insertAfter, int x, int y, int width, int height, UINT flags) {
-    return ::SetWindowPos(m_hWnd, insertAfter->GetSafeHwnd(), x, y, width, height, flags);
+    return ::SetWindowPos(m_hWnd, SafeHwnd(insertAfter), x, y, width, height, flags);
 }
 void CWnd::GetWindowRect(LPRECT rect) const {
     ::GetWindowRect(m_hWnd, rect);
@@ -343,10 +335,10 @@ void CWnd::ScreenToClient(LPRECT rect) const {
     ::ScreenToClient(m_hWnd, reinterpret_cast<POINT*>(&rect->right));
 }
 void CWnd::MapWindowPoints(CWnd* to, LPPOINT points, UINT count) const {
-    ::MapWindowPoints(m_hWnd, to->GetSafeHwnd(), points, count);
+    ::MapWindowPoints(m_hWnd, SafeHwnd(to), points, count);
 }
 void CWnd::MapWindowPoints(CWnd* to, LPRECT rect) const {
-    ::MapWindowPoints(m_hWnd, to->GetSafeHwnd(), reinterpret_cast<POINT*>(rect), 2);
+    ::MapWindowPoints(m_hWnd, SafeHwnd(to), reinterpret_cast<POINT*>(rect), 2);
 }
 
 // Text and font.
@@ -565,7 +557,7 @@ CWnd* CWnd::GetNextDlgTabItem(CWnd* control, BOOL previous) const {
     }
     if (stops.empty())
         return nullptr;
-    const auto it = std::find(stops.begin(), stops.end(), control->GetSafeHwnd());
+    const auto it = std::find(stops.begin(), stops.end(), SafeHwnd(control));
     if (it == stops.end())
         return FromHandle(previous ? stops.back() : stops.front());
     const std::ptrdiff_t n = std::ptrdiff_t(stops.size());

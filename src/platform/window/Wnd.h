@@ -27,8 +27,7 @@ public:
     static const CWnd wndBottom;
     static const CWnd wndTopMost;
     static const CWnd wndNoTopMost;
-    // Null when called through a null pointer, as the framework allows.
-    HWND GetSafeHwnd() const;
+    HWND GetSafeHwnd() const { return m_hWnd; }
     operator HWND() const { return GetSafeHwnd(); }
 
     // The object bound to a window, or a temporary one that wraps the handle (for a handle that
@@ -266,3 +265,7 @@ constexpr UINT CTLCOLOR_BTN = 3;
 constexpr UINT CTLCOLOR_DLG = 4;
 constexpr UINT CTLCOLOR_SCROLLBAR = 5;
 constexpr UINT CTLCOLOR_STATIC = 6;
+
+// The window of an object that may be null: the framework's habit of calling GetSafeHwnd
+// through a null pointer is undefined behaviour in C++, so code that may hold null asks here.
+inline HWND SafeHwnd(const CWnd* wnd) { return wnd != nullptr ? wnd->m_hWnd : nullptr; }

@@ -14,6 +14,9 @@ protected:
     static constexpr int kHeight = 120;
 
     void SetUp() override {
+        // Tests that loop start afresh by calling SetUp again: free the last context first.
+        if (dc.GetSafeHdc() != nullptr)
+            ::DeleteDC(dc.Detach());
         surface = std::make_unique<Surface>(kWidth, kHeight);
         dc.Attach(CreateSurfaceDC(surface.get(), POINT{0, 0}, RECT{0, 0, kWidth, kHeight}));
     }
