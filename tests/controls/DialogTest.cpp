@@ -79,16 +79,21 @@ TEST(Dialog, ModalEndsByTheResponderOrIsCancelled) {
         EXPECT_EQ(dialog.DoModal(), IDCANCEL); // nobody to end it
         EXPECT_EQ(dialog.initCount, 1);
     }
+    CWnd owner;
+    ASSERT_TRUE(owner.CreateEx(0, nullptr, "Owner", WS_POPUP, 0, 0, 200, 100, nullptr, nullptr));
     int shown = 0;
     ScopedResponder responder([&](CDialog& d) {
         ++shown;
         EXPECT_TRUE(::IsWindowVisible(d.GetSafeHwnd()));
+        EXPECT_FALSE(owner.IsWindowEnabled()); // the owner waits for the dialog
         d.SendMessage(WM_COMMAND, IDOK);
     });
-    CountingDialog dialog(kPlainDialog, nullptr);
+    CountingDialog dialog(kPlainDialog, &owner);
     EXPECT_EQ(dialog.DoModal(), IDOK);
     EXPECT_EQ(shown, 1);
     EXPECT_FALSE(dialog.IsWindow());
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    owner.DestroyWindow();
 }
 
 // An application folder with its help document, and a desktop whose PDF reader writes its
