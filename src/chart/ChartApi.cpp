@@ -6,7 +6,8 @@
 #include "chart/ChartPropertyIds.h"
 #include "platform/gdi/DC.h"
 #include "platform/gdi/canvas/Canvas.h"
-#include "platform/host/Host.h"
+#include "platform/host/Clipboard.h"
+#include "platform/host/GlobalMemory.h"
 #include "platform/system/FileSystem.h"
 #include "platform/window/WindowApi.h"
 
@@ -16,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <map>
 #include <memory>
 #include <string>
@@ -218,7 +220,6 @@ struct Metafile {
     std::string svg;
 };
 
-std::string g_clipboardImage;
 std::string g_lastPrintFile;
 
 } // namespace
@@ -370,6 +371,28 @@ void ChartDeleteMetafile(HMETAFILE metafile) {
     delete reinterpret_cast<Metafile*>(metafile);
 }
 
+namespace {
+// Replaces the clipboard's content with `bytes` in the registered format `format`, as the
+// framework's clipboard calls hand it over: a global block that the clipboard then owns.
+bool PutOnClipboard(HWND owner, const char* format, const std::string& bytes) {
+    const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, bytes.size());
+    if (!block)
+        return false;
+    std::memcpy(GlobalLock(block), bytes.data(), bytes.size());
+    GlobalUnlock(block);
+    if (!OpenClipboard(owner)) {
+        GlobalFree(block);
+        return false;
+    }
+    EmptyClipboard();
+    const bool placed = SetClipboardData(RegisterClipboardFormat(format), block) != nullptr;
+    if (!placed)
+        GlobalFree(block);
+    CloseClipboard();
+    return placed;
+}
+} // namespace
+
 int ChartCopyMetaToClipboard(HWND chart, int* size) {
     ChartEngine* engine = ChartEngineOf(chart);
     int width = 0, height = 0;
@@ -381,8 +404,7 @@ int ChartCopyMetaToClipboard(HWND chart, int* size) {
     const std::string svg = canvas->Finish(&ok);
     if (!ok)
         return 0;
-    GetHost().SetClipboardText(svg);
-    return 1;
+    return PutOnClipboard(chart, "image/svg+xml", svg) ? 1 : 0;
 }
 
 int ChartCopyBitmapToClipboard(HWND chart, int* size) {
@@ -392,16 +414,8 @@ int ChartCopyBitmapToClipboard(HWND chart, int* size) {
         return 0;
     auto canvas = Canvas::CreateImage(width, height);
     engine->RenderTo(*canvas);
-    g_clipboardImage = canvas->EncodePng();
-    return g_clipboardImage.empty() ? 0 : 1;
-}
-
-const unsigned char* ChartClipboardImage(int* size) {
-    if (size)
-        *size = int(g_clipboardImage.size());
-    return g_clipboardImage.empty()
-               ? nullptr
-               : reinterpret_cast<const unsigned char*>(g_clipboardImage.data());
+    const std::string png = canvas->EncodePng();
+    return !png.empty() && PutOnClipboard(chart, "image/png", png) ? 1 : 0;
 }
 
 int ChartCopyBitmapToFile(HWND chart, int* size, const char* path) {

@@ -49,10 +49,10 @@ ORVA_API int ChartEncodeDateTime(double* serial, int* fields, int count);
 ORVA_API HMETAFILE ChartGetMetafile(HWND chart);
 ORVA_API const char* ChartMetafileText(HMETAFILE metafile, int* size);
 ORVA_API void ChartDeleteMetafile(HMETAFILE metafile);
+// Both copies replace the clipboard's content: the picture as "image/svg+xml", the bitmap as
+// "image/png", each in its registered clipboard format.
 ORVA_API int ChartCopyMetaToClipboard(HWND chart, int* size);
 ORVA_API int ChartCopyBitmapToClipboard(HWND chart, int* size);
-// The PNG of the last bitmap copy: the platform's clipboard holds text only.
-ORVA_API const unsigned char* ChartClipboardImage(int* size);
 ORVA_API int ChartCopyBitmapToFile(HWND chart, int* size, const char* path);
 ORVA_API int ChartPrint(HWND chart, int, int);
 // Where ChartPrint writes its PDF.

@@ -1,5 +1,8 @@
 #include "chart/ChartApi.h"
 
+#include "platform/host/Clipboard.h"
+#include "platform/host/GlobalMemory.h"
+
 #include "platform/testing/NotificationRecorder.h"
 #include "platform/testing/UiDriver.h"
 #include "platform/window/Wnd.h"
@@ -164,6 +167,33 @@ TEST_F(ChartWindowTest, WritesBitmapsByExtensionAndAnSvgPicture) {
     EXPECT_EQ(int(svg.size()), length);
     EXPECT_NE(svg.find("<svg"), std::string::npos);
     ChartDeleteMetafile(picture);
+}
+
+// What the clipboard holds in a registered format, or "" when it holds nothing there.
+std::string ClipboardBytes(const char* format) {
+    std::string bytes;
+    if (!OpenClipboard(nullptr))
+        return bytes;
+    if (const HANDLE data = GetClipboardData(RegisterClipboardFormat(format))) {
+        const HGLOBAL block = static_cast<HGLOBAL>(data);
+        bytes.assign(static_cast<const char*>(GlobalLock(block)), GlobalSize(block));
+        GlobalUnlock(block);
+    }
+    CloseClipboard();
+    return bytes;
+}
+
+TEST_F(ChartWindowTest, CopiesReplaceTheClipboardWithAPngOrAnSvgPicture) {
+    int size[] = {120, 80};
+    ASSERT_EQ(ChartCopyBitmapToClipboard(chart, size), 1);
+    EXPECT_EQ(ClipboardBytes("image/png").substr(0, 4), "\x89PNG");
+
+    ASSERT_EQ(ChartCopyMetaToClipboard(chart, size), 1);
+    EXPECT_NE(ClipboardBytes("image/svg+xml").find("<svg"), std::string::npos);
+    EXPECT_EQ(ClipboardBytes("image/png"), "") << "a copy replaces what the clipboard held";
+
+    int noSize[] = {0, 80};
+    EXPECT_EQ(ChartCopyBitmapToClipboard(chart, noSize), 0);
 }
 
 TEST_F(ChartWindowTest, CallsOnAGoneChartFail) {
