@@ -24,6 +24,7 @@
 #include "platform/system/SysColors.h"
 #include "platform/system/SystemMetrics.h"
 #include "platform/system/SystemParameters.h"
+#include "platform/window/Dialog.h"
 #include "platform/window/MessageBox.h"
 #include "platform/window/WindowApi.h"
 #include "platform/window/WindowDC.h"
@@ -41,6 +42,9 @@
 #include "grid/GridDefaultCell.h"
 #include "grid/GridItem.h"
 #include "grid/GridNotify.h"
+
+// Controls.
+#include "controls/DialogORVA.h"
 
 // Plot.
 #include "plot/PlotData.h"
