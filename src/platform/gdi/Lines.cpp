@@ -221,6 +221,12 @@ std::vector<POINT> ToSurface(DcState* dc, const POINT* points, int count) {
     return result;
 }
 
+// The box of a shape given by two corners in any order, in surface pixels.
+RECT SurfaceBox(DcState* dc, int left, int top, int right, int bottom) {
+    return dc->ToSurface(RECT{std::min(left, right), std::min(top, bottom), std::max(left, right),
+                              std::max(top, bottom)});
+}
+
 } // namespace
 
 CPoint CDC::MoveTo(int x, int y) {
@@ -274,8 +280,7 @@ BOOL CDC::Rectangle(int left, int top, int right, int bottom) {
     DcState* dc = LookupDC(m_hDC);
     if (dc == nullptr)
         return FALSE;
-    RECT r = dc->ToSurface(RECT{std::min(left, right), std::min(top, bottom), std::max(left, right),
-                                std::max(top, bottom)});
+    const RECT r = SurfaceBox(dc, left, top, right, bottom);
     if (r.right - r.left < 1 || r.bottom - r.top < 1)
         return TRUE;
     FillPath(dc, [&](cairo_t* cr) {
@@ -298,8 +303,7 @@ BOOL CDC::Ellipse(int left, int top, int right, int bottom) {
     DcState* dc = LookupDC(m_hDC);
     if (dc == nullptr)
         return FALSE;
-    RECT r = dc->ToSurface(RECT{std::min(left, right), std::min(top, bottom), std::max(left, right),
-                                std::max(top, bottom)});
+    const RECT r = SurfaceBox(dc, left, top, right, bottom);
     if (r.right - r.left < 1 || r.bottom - r.top < 1)
         return TRUE;
     auto ellipse = [&](double inset) {
