@@ -18,5 +18,7 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ORVAUtilConfig.cmake
   ${CMAKE_CURRENT_BINARY_DIR}/ORVAUtilConfigVersion.cmake
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/ORVAUtil)
 
+# How far the pkg-config folder lies below the prefix, as a path that climbs back up.
+file(RELATIVE_PATH ORVA_PC_TO_PREFIX /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
 configure_file(cmake/orvautil.pc.in ${CMAKE_CURRENT_BINARY_DIR}/orvautil.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/orvautil.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
