@@ -121,12 +121,14 @@ TEST_F(DrawingTest, XorPenLinesEraseWhenDrawnTwice) {
             for (int pass = 0; pass < 2; ++pass) {
                 dc.MoveTo(0, 0);
                 dc.LineTo(99, 49);
-                if (pass == 0)
+                if (pass == 0) {
                     EXPECT_NE(Pixel(50, 25), before[50]) << "mode " << mode;
+                }
             }
-            for (int x = 0; x < 100; ++x)
+            for (int x = 0; x < 100; ++x) {
                 ASSERT_EQ(Pixel(x, x / 2), before[std::size_t(x)])
                     << "mode " << mode << " at " << x;
+            }
             dc.SetROP2(R2_COPYPEN);
             dc.SelectObject(old);
         }
