@@ -19,19 +19,16 @@ constexpr double kLegendSample = 26;
 constexpr int kPalette[] = {0x00B4771F, 0x000E7FFF, 0x002CA02C, 0x002827D6, 0x00BD6794,
                             0x004B568C, 0x00C277E3, 0x007F7F7F, 0x0022BDBC, 0x00CFBE17};
 
+// The lowest and highest value seen. It runs over every point of every paint, so it keeps no
+// flag of its own: an extent is empty while low lies above high.
 struct Extent {
-    double low = 0, high = 0;
-    bool any = false;
+    double low = HUGE_VAL, high = -HUGE_VAL;
+    bool Any() const { return low <= high; }
     void Add(double v) {
         if (IsMissing(v) || !std::isfinite(v))
             return;
-        if (!any) {
-            low = high = v;
-            any = true;
-        } else {
-            low = std::min(low, v);
-            high = std::max(high, v);
-        }
+        low = std::min(low, v);
+        high = std::max(high, v);
     }
 };
 
@@ -42,8 +39,8 @@ void ResolveRange(const ChartProperties& p, int modeId, int minId, int maxId, Ex
     const int mode = p.Int(modeId, RangeAuto);
     lowGiven = (mode == RangeMinimum || mode == RangeBoth) && p.Has(minId);
     highGiven = (mode == RangeMaximum || mode == RangeBoth) && p.Has(maxId);
-    low = lowGiven ? p.Double(minId, 0) : data.any ? data.low : 0;
-    high = highGiven ? p.Double(maxId, 1) : data.any ? data.high : 1;
+    low = lowGiven ? p.Double(minId, 0) : data.Any() ? data.low : 0;
+    high = highGiven ? p.Double(maxId, 1) : data.Any() ? data.high : 1;
     if (!(high > low)) {
         const double half = low == 0 ? 1 : std::fabs(low) * 0.1;
         if (!lowGiven)
@@ -163,13 +160,13 @@ ChartFrame LayoutChart(const Canvas& measure, const ChartProperties& p, int widt
         if (series.x)
             xData.Add(series.x[i]);
     }
-    if (xData.any) {
+    if (xData.Any()) {
         xData.low += series.xOffset;
         xData.high += series.xOffset;
     }
     // A best-fit curve may run beyond its points; the axis shows all of it.
     const auto& fits = p.Doubles(FitCoefficients);
-    if ((method == MethodBestFitLine || method == MethodBestFitCurve) && xData.any &&
+    if ((method == MethodBestFitLine || method == MethodBestFitCurve) && xData.Any() &&
         fits.size() >= size_t(series.curves) * 10) {
         for (int s = 0; s < series.curves; ++s) {
             const std::vector<double> c(fits.begin() + s * 10, fits.begin() + s * 10 + 10);
@@ -180,9 +177,9 @@ ChartFrame LayoutChart(const Canvas& measure, const ChartProperties& p, int widt
     }
     if (f.bars) {
         yData.Add(0);
-        xData = {-0.5, series.points - 0.5, true};
+        xData = {-0.5, series.points - 0.5};
     } else if (!series.x && series.points > 0) {
-        xData = {0, double(std::max(1, series.points - 1)), true};
+        xData = {0, double(std::max(1, series.points - 1))};
     }
     bool xLowGiven, xHighGiven, yLowGiven, yHighGiven;
     ResolveRange(p, XRangeMode, XMinimum, XMaximum, xData, f.xMin, f.xMax, xLowGiven, xHighGiven);
