@@ -197,49 +197,30 @@ CWnd* CGridCtrl::NotifyTarget() const {
     return target != nullptr && target->GetSafeHwnd() != nullptr ? target : nullptr;
 }
 
-LRESULT CGridCtrl::SendMessageToParent(int row, int col, int code) const {
-    if (GetSafeHwnd() == nullptr) {
-        return 0;
-    }
-    GV_NMGRID record{};
-    record.hdr.hwndFrom = m_hWnd;
-    record.hdr.idFrom = UINT_PTR(GetDlgCtrlID());
-    record.hdr.code = UINT(code);
-    record.iRow = row;
-    record.iColumn = col;
-    CWnd* owner = NotifyTarget();
+LRESULT CGridCtrl::SendNotification(NMHDR& header, UINT code) const {
+    CWnd* owner = GetSafeHwnd() != nullptr ? NotifyTarget() : nullptr;
     if (owner == nullptr) {
         return 0;
     }
-    return owner->SendMessage(WM_NOTIFY, WPARAM(record.hdr.idFrom), LPARAM(&record));
+    header.hwndFrom = m_hWnd;
+    header.idFrom = UINT_PTR(GetDlgCtrlID());
+    header.code = code;
+    return owner->SendMessage(WM_NOTIFY, WPARAM(header.idFrom), LPARAM(&header));
+}
+
+LRESULT CGridCtrl::SendMessageToParent(int row, int col, int code) const {
+    GV_NMGRID record{};
+    record.iRow = row;
+    record.iColumn = col;
+    return SendNotification(record.hdr, UINT(code));
 }
 
 LRESULT CGridCtrl::SendDisplayRequestToParent(GV_DISPINFO* dispInfo) const {
-    if (GetSafeHwnd() == nullptr || dispInfo == nullptr) {
-        return 0;
-    }
-    dispInfo->hdr.hwndFrom = m_hWnd;
-    dispInfo->hdr.idFrom = UINT_PTR(GetDlgCtrlID());
-    dispInfo->hdr.code = UINT(GV_NOTIFY_GETDISPINFO);
-    CWnd* owner = NotifyTarget();
-    if (owner == nullptr) {
-        return 0;
-    }
-    return owner->SendMessage(WM_NOTIFY, WPARAM(dispInfo->hdr.idFrom), LPARAM(dispInfo));
+    return dispInfo != nullptr ? SendNotification(dispInfo->hdr, UINT(GV_NOTIFY_GETDISPINFO)) : 0;
 }
 
 LRESULT CGridCtrl::SendCacheHintToParent(const CCellRange& range) const {
-    if (GetSafeHwnd() == nullptr) {
-        return 0;
-    }
     GV_CACHEHINT record{};
-    record.hdr.hwndFrom = m_hWnd;
-    record.hdr.idFrom = UINT_PTR(GetDlgCtrlID());
-    record.hdr.code = UINT(GV_NOTIFY_CACHEHINT);
     record.range = range;
-    CWnd* owner = NotifyTarget();
-    if (owner == nullptr) {
-        return 0;
-    }
-    return owner->SendMessage(WM_NOTIFY, WPARAM(record.hdr.idFrom), LPARAM(&record));
+    return SendNotification(record.hdr, UINT(GV_NOTIFY_CACHEHINT));
 }

@@ -378,6 +378,8 @@ protected:
     void OnSettingChange(UINT flags, LPCTSTR section) override;
     void FollowSystemColours();
     CWnd* NotifyTarget() const;
+    // Stamps a record's header with this grid and the code, and sends it to the notify target.
+    LRESULT SendNotification(NMHDR& header, UINT code) const;
 
     BOOL SetCell(int row, int col, CGridCellBase* cell);
     CCellID GetTopleftNonFixedCell(BOOL forceRecalculation = FALSE);
