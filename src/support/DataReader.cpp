@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr char kSeparators[] = " ,\t\r\n";
 constexpr int kPieceSize = 49; // bytes the reader took from the file at a time
 constexpr int kEndOfFileMark = 26;
 
@@ -61,9 +60,11 @@ bool FindToken(std::string_view line, Token& token) {
         token.text = rest.substr(1, quote - 1);
         rest.remove_prefix(quote + 1);
     } else {
-        const auto separator = rest.find_first_of(kSeparators);
-        token.text = rest.substr(0, separator);
-        rest.remove_prefix(separator == std::string_view::npos ? rest.size() : separator);
+        size_t length = 0;
+        while (length < rest.size() && !IsSeparator(rest[length]))
+            ++length;
+        token.text = rest.substr(0, length);
+        rest.remove_prefix(length);
     }
     token.consumed = int(line.size() - rest.size()) + LeadingSeparators(rest);
     return true;
