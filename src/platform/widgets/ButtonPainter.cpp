@@ -29,7 +29,9 @@ void ButtonBehaviour::Paint(CDC& dc) {
                                        COLOR_3DFACE, COLOR_BTNTEXT);
     RECT client;
     ::GetClientRect(Window(), &client);
-    ::FillRect(dc.GetSafeHdc(), &client, brush);
+    // A group box lies under the controls it frames: it leaves its inside to its parent.
+    if (!IsGroupBox())
+        ::FillRect(dc.GetSafeHdc(), &client, brush);
     CFont* old = dc.SelectObject(ControlFont(Window()));
     dc.SetBkMode(TRANSPARENT);
     if (IsGroupBox())
