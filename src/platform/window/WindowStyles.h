@@ -130,6 +130,13 @@ constexpr DWORD SS_CENTERIMAGE = 0x0200;
 constexpr DWORD SS_SUNKEN = 0x1000;
 constexpr DWORD SS_ENDELLIPSIS = 0x4000;
 
+// Scroll bar control styles.
+constexpr DWORD SBS_HORZ = 0x0000;
+constexpr DWORD SBS_VERT = 0x0001;
+constexpr DWORD SBS_SIZEBOXBOTTOMRIGHTALIGN = 0x0004;
+constexpr DWORD SBS_SIZEBOX = 0x0008;
+constexpr DWORD SBS_SIZEGRIP = 0x0010;
+
 // Window class styles.
 constexpr UINT CS_VREDRAW = 0x0001;
 constexpr UINT CS_HREDRAW = 0x0002;
