@@ -225,6 +225,32 @@ constexpr UINT CBN_CLOSEUP = 8;
 constexpr UINT CBN_SELENDOK = 9;
 constexpr UINT CBN_SELENDCANCEL = 10;
 
+// The date-and-time picker (DTM_) and the month calendar (MCM_), and their notifications,
+// sent in WM_NOTIFY.
+constexpr UINT DTM_FIRST = 0x1000;
+constexpr UINT DTM_GETSYSTEMTIME = DTM_FIRST + 1;
+constexpr UINT DTM_SETSYSTEMTIME = DTM_FIRST + 2;
+constexpr UINT DTM_GETRANGE = DTM_FIRST + 3;
+constexpr UINT DTM_SETRANGE = DTM_FIRST + 4;
+constexpr UINT DTM_SETFORMAT = DTM_FIRST + 5;
+constexpr UINT DTM_SETFORMATA = DTM_SETFORMAT;
+constexpr UINT DTM_GETMONTHCAL = DTM_FIRST + 8;
+constexpr UINT DTM_CLOSEMONTHCAL = DTM_FIRST + 13;
+constexpr UINT MCM_FIRST = 0x1000;
+constexpr UINT MCM_GETCURSEL = MCM_FIRST + 1;
+constexpr UINT MCM_SETCURSEL = MCM_FIRST + 2;
+constexpr UINT MCM_GETMINREQRECT = MCM_FIRST + 9;
+constexpr UINT MCM_SETTODAY = MCM_FIRST + 12;
+constexpr UINT MCM_GETTODAY = MCM_FIRST + 13;
+constexpr UINT MCM_HITTEST = MCM_FIRST + 14;
+constexpr UINT DTN_FIRST2 = 0U - 753U;
+constexpr UINT DTN_CLOSEUP = DTN_FIRST2;
+constexpr UINT DTN_DROPDOWN = DTN_FIRST2 - 1;
+constexpr UINT DTN_DATETIMECHANGE = DTN_FIRST2 - 6;
+constexpr UINT MCN_FIRST = 0U - 746U;
+constexpr UINT MCN_SELECT = MCN_FIRST;
+constexpr UINT MCN_SELCHANGE = MCN_FIRST - 3;
+
 // WM_GETDLGCODE answers.
 constexpr UINT DLGC_WANTARROWS = 0x0001;
 constexpr UINT DLGC_WANTTAB = 0x0002;

@@ -105,6 +105,15 @@ constexpr DWORD CBS_DISABLENOSCROLL = 0x0800;
 constexpr DWORD CBS_UPPERCASE = 0x2000;
 constexpr DWORD CBS_LOWERCASE = 0x4000;
 
+// Date-and-time picker styles.
+constexpr DWORD DTS_SHORTDATEFORMAT = 0x0000;
+constexpr DWORD DTS_UPDOWN = 0x0001;
+constexpr DWORD DTS_SHOWNONE = 0x0002;
+constexpr DWORD DTS_LONGDATEFORMAT = 0x0004;
+constexpr DWORD DTS_TIMEFORMAT = 0x0009;
+constexpr DWORD DTS_SHORTDATECENTURYFORMAT = 0x000C;
+constexpr DWORD DTS_RIGHTALIGN = 0x0020;
+
 // Static control styles.
 constexpr DWORD SS_LEFT = 0x0000;
 constexpr DWORD SS_CENTER = 0x0001;
