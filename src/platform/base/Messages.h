@@ -48,11 +48,11 @@ constexpr UINT WM_NCACTIVATE = 0x0086;
 constexpr UINT WM_GETDLGCODE = 0x0087;
 constexpr UINT WM_NCMOUSEMOVE = 0x00A0;
 constexpr UINT WM_NCLBUTTONDOWN = 0x00A1;
-constexpr UINT WM_KEYFIRST = 0x0100;
 constexpr UINT WM_NCLBUTTONUP = 0x00A2;
 constexpr UINT WM_NCLBUTTONDBLCLK = 0x00A3;
 constexpr UINT WM_NCRBUTTONDOWN = 0x00A4;
 constexpr UINT WM_NCRBUTTONUP = 0x00A5;
+constexpr UINT WM_KEYFIRST = 0x0100;
 constexpr UINT WM_KEYDOWN = 0x0100;
 constexpr UINT WM_KEYUP = 0x0101;
 constexpr UINT WM_CHAR = 0x0102;
@@ -250,24 +250,6 @@ constexpr int SB_HORZ = 0;
 constexpr int SB_VERT = 1;
 constexpr int SB_CTL = 2;
 constexpr int SB_BOTH = 3;
-
-// Messages of the standard controls that the dialog manager and data exchange send.
-constexpr UINT EM_SETSEL = 0x00B1;
-constexpr UINT BM_GETCHECK = 0x00F0;
-constexpr UINT BM_SETCHECK = 0x00F1;
-constexpr UINT BM_GETSTATE = 0x00F2;
-constexpr UINT BM_SETSTATE = 0x00F3;
-constexpr UINT BM_SETSTYLE = 0x00F4;
-constexpr UINT BM_CLICK = 0x00F5;
-constexpr UINT BST_UNCHECKED = 0x0000;
-constexpr UINT BST_CHECKED = 0x0001;
-constexpr UINT BST_INDETERMINATE = 0x0002;
-constexpr UINT CB_GETCURSEL = 0x0147;
-constexpr UINT CB_GETLBTEXT = 0x0148;
-constexpr UINT CB_GETLBTEXTLEN = 0x0149;
-constexpr UINT CB_SELECTSTRING = 0x014D;
-constexpr UINT CB_SETCURSEL = 0x014E;
-constexpr int CB_ERR = -1;
 
 // Notification codes of the standard controls, sent in the high word of WM_COMMAND.
 constexpr UINT EN_SETFOCUS = 0x0100;
