@@ -27,6 +27,13 @@ LRESULT ComboListBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_MOUSEACTIVATE:
         return MA_NOACTIVATE;
+    case WM_ACTIVATE:
+        // A display may give the pop-up the input focus of its own; the list never takes the
+        // focus from its combo, and the combo's window stays the active one.
+        if (LOWORD(wParam) != WA_INACTIVE)
+            if (const HWND owner = ::GetWindow(Window(), GW_OWNER))
+                ::SetActiveWindow(owner);
+        return 0;
     case WM_MOUSEMOVE:
         if (const int row = RowAt(point); row >= 0)
             SetHot(row);
