@@ -96,9 +96,12 @@ LRESULT ComboListBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 void ComboListBehaviour::Open(HWND combo, const CRect& screenRect, int hot, bool pressHeld) {
     m_combo = combo;
     m_pressHeld = pressHeld;
+    const ComboBehaviour* owner = Combo();
+    if (!owner)
+        return;
     ::SendMessage(Window(), WM_SETFONT, ::SendMessage(combo, WM_GETFONT, 0, 0), 0);
-    const int count = Combo() ? int(Combo()->Items().size()) : 0;
-    const int rows = std::max(1, (screenRect.Height() - 2) / Combo()->ItemHeight());
+    const int count = int(owner->Items().size());
+    const int rows = std::max(1, (screenRect.Height() - 2) / owner->ItemHeight());
     const DWORD style = DWORD(::GetWindowLong(Window(), GWL_STYLE));
     const DWORD wanted = count > rows ? (style | WS_VSCROLL) : (style & ~WS_VSCROLL);
     ::SetWindowLong(Window(), GWL_STYLE, LONG(wanted));
