@@ -48,7 +48,7 @@ DialogTemplate ControlsTemplate() {
     add("Edit", "0.0015", kDisabledEdit, visible | WS_BORDER | WS_DISABLED | ES_RIGHT,
         {56, 52, 156, 66});
     add("Edit", "Multi-line notes:\r\nsecond line\r\nthird line", kNotes,
-        visible | WS_BORDER | ES_MULTILINE | ES_WANTRETURN, {12, 72, 156, 112});
+        visible | WS_BORDER | WS_VSCROLL | ES_MULTILINE | ES_WANTRETURN, {12, 72, 156, 112});
 
     add("Button", "Options", 0xFFFF, BS_GROUPBOX, {168, 4, 324, 118});
     add("Button", "Checked box", kChecked, visible | BS_AUTOCHECKBOX, {176, 16, 318, 28});

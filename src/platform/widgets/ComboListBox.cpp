@@ -210,10 +210,14 @@ void ComboListBehaviour::OnButtonUp(CPoint client) {
 void ComboListBehaviour::Paint(CDC& dc) {
     RECT clientRect;
     ::GetClientRect(Window(), &clientRect);
-    dc.FillSolidRect(&clientRect, GetSysColor(COLOR_WINDOW));
     const ComboBehaviour* combo = Combo();
     if (!combo)
         return;
+    // The combo's parent colours the list, told of it by the combo's handle.
+    const HBRUSH brush =
+        ControlColors(m_combo, dc, WM_CTLCOLORLISTBOX, COLOR_WINDOW, COLOR_WINDOWTEXT);
+    ::FillRect(dc.GetSafeHdc(), &clientRect, brush);
+    const COLORREF text = dc.GetTextColor();
     CFont* old = dc.SelectObject(ControlFont(Window()));
     dc.SetBkMode(TRANSPARENT);
     const int height = combo->ItemHeight();
@@ -225,7 +229,7 @@ void ComboListBehaviour::Paint(CDC& dc) {
         const bool hot = row == m_hot;
         if (hot)
             dc.FillSolidRect(&r, GetSysColor(COLOR_HIGHLIGHT));
-        dc.SetTextColor(GetSysColor(hot ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+        dc.SetTextColor(hot ? GetSysColor(COLOR_HIGHLIGHTTEXT) : text);
         CRect text = r;
         text.left += kTextIndent;
         dc.DrawText(items[size_t(row)].text.c_str(), -1, &text,

@@ -13,6 +13,7 @@ namespace {
 constexpr UINT kEditId = 100;
 const CRect kEditRect(10, 10, 210, 34);
 const CRect kNarrowRect(10, 10, 70, 34);
+constexpr int kWheelLines = 3; // lines a notch of the wheel scrolls
 
 class EditTest : public WidgetTest {
 protected:
@@ -165,7 +166,8 @@ TEST_F(EditTest, EachChangeSendsUpdateThenChangeAndFocusIsAnnounced) {
 }
 
 TEST_F(EditTest, AMultiLineEditIsSilentAboutTextSetByTheProgramAndBreaksLinesOnEnter) {
-    Make(WS_VISIBLE | ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL, CRect(10, 10, 210, 110));
+    Make(WS_VISIBLE | WS_VSCROLL | ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL,
+         CRect(10, 10, 210, 110));
     Focus();
     edit.SetWindowText("first");
     EXPECT_TRUE(CommandsFrom(kEditId).empty());
@@ -198,8 +200,13 @@ TEST_F(EditTest, AMultiLineEditIsSilentAboutTextSetByTheProgramAndBreaksLinesOnE
     EXPECT_GT(edit.GetFirstVisibleLine(), 0);
     const CPoint caret = edit.PosFromChar(UINT(edit.GetWindowTextLength()));
     EXPECT_TRUE(client.PtInRect(caret));
+    EXPECT_EQ(edit.GetScrollPos(SB_VERT), edit.GetFirstVisibleLine());
     ui.PressKey(VK_HOME, MK_CONTROL);
     EXPECT_EQ(edit.GetFirstVisibleLine(), 0);
+    ui.Wheel(edit.m_hWnd, CPoint(20, 20), -WHEEL_DELTA); // the wheel scrolls, the caret stays
+    EXPECT_EQ(edit.GetFirstVisibleLine(), kWheelLines);
+    EXPECT_EQ(edit.GetScrollPos(SB_VERT), kWheelLines);
+    EXPECT_EQ(Sel(), std::make_pair(0, 0));
 }
 
 TEST_F(EditTest, TheMouseSetsTheCaretDragsASelectionAndDoubleClickTakesAWord) {
