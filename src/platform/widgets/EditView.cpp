@@ -157,8 +157,13 @@ void EditBehaviour::UpdateScrollBar() {
     if (!Multiline() || !(Style() & WS_VSCROLL))
         return;
     // The bar stays, greyed, while all the text fits, as the framework's edit keeps it.
-    SCROLLINFO info{sizeof info, SIF_ALL | SIF_DISABLENOSCROLL, 0, m_model.LineCount() - 1,
-                    UINT(VisibleLines()), m_firstLine, 0};
+    SCROLLINFO info{sizeof info,
+                    SIF_ALL | SIF_DISABLENOSCROLL,
+                    0,
+                    m_model.LineCount() - 1,
+                    UINT(VisibleLines()),
+                    m_firstLine,
+                    0};
     ::SetScrollInfo(Window(), SB_VERT, &info, TRUE);
 }
 
