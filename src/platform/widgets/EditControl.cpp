@@ -28,13 +28,14 @@ CPoint PointOf(LPARAM lParam) {
 
 LRESULT EditBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-    case WM_NCCREATE:
-        m_model.SetText(reinterpret_cast<const CREATESTRUCT*>(lParam)->lpszName
-                            ? reinterpret_cast<const CREATESTRUCT*>(lParam)->lpszName
-                            : "");
+    case WM_NCCREATE: {
+        const auto* cs = reinterpret_cast<const CREATESTRUCT*>(lParam);
+        m_model.SetText(cs->lpszName && !IS_INTRESOURCE(cs->lpszName) ? cs->lpszName : "");
         return Default(message, wParam, lParam);
+    }
     case WM_CREATE:
-        return OnCreate(reinterpret_cast<const CREATESTRUCT*>(lParam));
+        ScrollToCaret();
+        return 0;
     case WM_GETDLGCODE: {
         UINT code = DLGC_WANTCHARS | DLGC_HASSETSEL | DLGC_WANTARROWS;
         if (Multiline() && (Style() & ES_WANTRETURN))
@@ -229,11 +230,6 @@ LRESULT EditBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
         return Default(message, wParam, lParam);
     }
-}
-
-LRESULT EditBehaviour::OnCreate(const CREATESTRUCT*) {
-    ScrollToCaret();
-    return 0;
 }
 
 // Keys and characters.

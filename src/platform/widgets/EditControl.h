@@ -21,7 +21,6 @@ public:
 
 private:
     // Messages (EditControl.cpp).
-    LRESULT OnCreate(const CREATESTRUCT* cs);
     void OnKeyDown(UINT key);
     void OnChar(UINT ch);
     void OnButtonDown(CPoint point, bool extend);
