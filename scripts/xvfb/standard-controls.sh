@@ -26,8 +26,6 @@ for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break; sleep 0.1; done
 stdbuf -oL "$gallery" --out "$out/gallery" --page 30-standard-controls --window >"$out/gallery.log" 2>&1 &
 app=$!
 window=$(xdotool search --sync --onlyvisible --name "Standard controls" | head -1)
-# No window manager runs here: the dialog gets the keyboard by hand.
-xdotool windowfocus --sync "$window"
 sleep 1
 
 # Where the gallery says its controls are, relative to the dialog's corner.
@@ -43,23 +41,29 @@ shot() { import -window root "$out/$1.png"; echo "$out/$1.png"; }
 pixel() { convert "$out/$1.png" -format "%[pixel:p{$2,$3}]" info:; }
 
 failures=0
+verdict() { # passed (0 or 1), what it means
+    if (($1)); then echo "ok: $2"; else echo "FAILED: $2"; failures=$((failures + 1)); fi
+}
 check() { # shot, x, y, is|not, colour, what it means
     local got
     got=$(pixel "$1" "$2" "$3")
-    if [[ ($4 == is && $got == "$5") || ($4 == not && $got != "$5") ]]; then
-        echo "ok: $6"
-    else
-        echo "FAILED: $6 ($got at $2,$3)"
-        failures=$((failures + 1))
-    fi
+    verdict $([[ ($4 == is && $got == "$5") || ($4 == not && $got != "$5") ]] && echo 1 || echo 0) \
+        "$6 ($got at $2,$3)"
 }
 
 shot 01-shown
 
 click name-edit
-xdotool key ctrl+a sleep 0.2 type --delay 60 "Weir crest 2"
+# No window manager runs here: the dialog gets the keyboard by hand, right before the keys.
+xdotool windowfocus --sync "$window" sleep 0.2 key ctrl+a sleep 0.2 type --delay 60 "Weir crest 2"
 sleep 0.5
 shot 02-typed
+read -r ex ey < <(place name-edit)
+field="80x12+$((ex - 40))+$((ey - 6))"
+convert "$out/01-shown.png" -crop "$field" +repage "$out/field-before.png"
+convert "$out/02-typed.png" -crop "$field" +repage "$out/field-after.png"
+changed=$(compare -metric AE "$out/field-before.png" "$out/field-after.png" null: 2>&1 || true)
+verdict $((${changed%% *} > 50)) "the typed text shows in the edit ($changed pixels changed)"
 
 click unchecked-box
 shot 03-ticked
@@ -71,7 +75,7 @@ for dx in -1 0 1; do
         [[ $(pixel 03-ticked $((bx + dx)) $((by + dy))) == "srgb(0,0,0)" ]] && checked=1
     done
 done
-if ((checked)); then echo "ok: the box shows its check mark"; else echo "FAILED: no check mark"; failures=$((failures + 1)); fi
+verdict $checked "the box shows its check mark"
 
 click method-arrow
 shot 04-list-open
