@@ -315,7 +315,9 @@ void MonthCalendar::Paint() {
         if (SameDay(day, today)) {
             CPen* oldPen = dc.SelectObject(&todayPen);
             dc.SelectStockObject(NULL_BRUSH);
-            dc.Ellipse(cell.left + 1, cell.top, cell.right - 1, cell.bottom);
+            const int half = std::min(cell.Width() - 2, cell.Height() + 8) / 2;
+            const int middle = cell.CenterPoint().x;
+            dc.Ellipse(middle - half, cell.top, middle + half, cell.bottom);
             dc.SelectObject(oldPen);
         }
         dc.SetTextColor(text);
