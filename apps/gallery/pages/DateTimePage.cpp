@@ -4,16 +4,11 @@
 
 #include "GalleryPage.h"
 
-#include "platform/gdi/DC.h"
-#include "platform/gdi/Font.h"
-#include "platform/system/SysColors.h"
 #include "platform/widgets/DateTimeCtrl.h"
 #include "platform/widgets/MonthCalCtrl.h"
 #include "platform/window/Dialog.h"
-#include "platform/window/WindowDC.h"
 
 #include <array>
-#include <cstring>
 
 namespace {
 
@@ -40,34 +35,13 @@ const std::array<Row, 6> kRows{{
     {"Calendar open", DTS_SHORTDATEFORMAT, nullptr},
 }};
 
-// The dialog writes the label of each picker to its left.
-class DatesDialog : public CDialog {
-public:
-    DatesDialog() : CDialog(kTemplateId) {}
-
-protected:
-    void OnPaint() override {
-        CPaintDC dc(this);
-        CRect client;
-        GetClientRect(&client);
-        dc.FillSolidRect(client, GetSysColor(COLOR_3DFACE));
-        dc.SetBkMode(TRANSPARENT);
-        CFont* old = dc.SelectObject(CFont::FromHandle(HFONT(GetStockObject(DEFAULT_GUI_FONT))));
-        for (size_t i = 0; i < kRows.size(); ++i) {
-            CRect label(8, kFirstRow + int(i) * kRowHeight, 84,
-                        kFirstRow + int(i) * kRowHeight + 14);
-            MapDialogRect(&label);
-            dc.DrawText(kRows[i].label, -1, &label, DT_LEFT | DT_VCENTER | DT_SINGLELINE);
-        }
-        dc.SelectObject(old);
-    }
-};
-
 void RegisterTemplate() {
     DialogTemplate dialog{
         "Dates and times", {236, kFirstRow * 2 + int(kRows.size()) * kRowHeight}, {}};
     for (size_t i = 0; i < kRows.size(); ++i) {
         const int top = kFirstRow + int(i) * kRowHeight;
+        dialog.items.push_back(
+            {"Static", kRows[i].label, UINT(-1), WS_VISIBLE | SS_LEFT, {8, top + 3, 84, top + 13}});
         dialog.items.push_back({DATETIMEPICK_CLASS,
                                 "",
                                 kFirstPickerId + UINT(i),
@@ -79,7 +53,7 @@ void RegisterTemplate() {
 
 void BuildDateTimePage(GalleryContext& context) {
     RegisterTemplate();
-    static DatesDialog dialog;
+    static CDialog dialog(kTemplateId);
     if (!dialog.Create(kTemplateId)) {
         context.Print("the dialog could not be made");
         return;
