@@ -38,12 +38,16 @@ for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break; sleep 0.1; done
 gallery_pid=$!
 window=$(xdotool search --sync --onlyvisible --name "Dates and times" | head -n1)
 eval "$(xdotool getwindowgeometry --shell "$window")" # sets X and Y
-sleep 0.5
+sleep 1
 
 shot() { import -window root "$shots/$1.png"; }
 pixel() { convert "$shots/$1.png" -format "%[pixel:p{$((X + $2)),$((Y + $3))}]" info:; }
+# The pointer arrives before the button goes down, as a user's hand does: a press with no
+# motion before it can reach the window before the display knows the pointer is over it.
 click() {
-    xdotool mousemove $((X + $1)) $((Y + $2)) click 1
+    xdotool mousemove $((X + $1)) $((Y + $2))
+    sleep 0.3
+    xdotool click 1
     sleep 0.5
 }
 
