@@ -177,7 +177,7 @@ int EndEllipsis(FontObject* font, PreparedText& prepared, int width) {
     auto widthWith = [&](int characters) {
         candidate.assign(text, 0, std::size_t(starts[std::size_t(characters)]));
         candidate += "...";
-        return LayoutWidth(Layout(font, candidate.data(), int(candidate.size())));
+        return SharedTextLayouts().Shape(font, candidate).width;
     };
     int low = 0, high = int(starts.size()) - 1; // the longest prefix that fits lies in [low, high]
     while (low < high) {
@@ -250,8 +250,14 @@ int CDC::DrawText(LPCTSTR raw, int count, LPRECT rect, UINT format) {
         if ((format & DT_END_ELLIPSIS) && (format & DT_CALCRECT) == 0 && width > rectWidth &&
             !text.empty()) {
             width = EndEllipsis(font, prepared, rectWidth);
-            layout = Layout(font, text.data(), int(text.size()), &prepared.underlines);
-            glyphs = nullptr;
+            if (prepared.underlines.empty() && text.find('\t') == std::string::npos) {
+                const ShapedText shaped = SharedTextLayouts().Shape(font, text);
+                layout = shaped.layout;
+                glyphs = shaped.glyphs;
+            } else {
+                layout = Layout(font, text.data(), int(text.size()), &prepared.underlines);
+                glyphs = nullptr;
+            }
         }
     } else {
         layout = Layout(font, text.data(), int(text.size()), &prepared.underlines);
