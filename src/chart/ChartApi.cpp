@@ -4,6 +4,7 @@
 #include "chart/ChartEngine.h"
 #include "chart/ChartFile.h"
 #include "chart/ChartPropertyIds.h"
+#include "platform/gdi/Bitmap.h"
 #include "platform/gdi/DC.h"
 #include "platform/gdi/canvas/Canvas.h"
 #include "platform/host/Clipboard.h"
@@ -17,6 +18,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 #include <map>
 #include <memory>
@@ -57,6 +59,67 @@ RECT ZoomBox(HWND chart, ChartEngine& engine) {
     return box.right - box.left > 4 && box.bottom - box.top > 4 ? box : RECT{};
 }
 std::pair<HWND, ChartEngine*> g_lastChart{nullptr, nullptr};
+
+// The image handed out as a bitmap selected into a memory context, for callers that copy the
+// chart elsewhere: property 2574 asks for it, 2575 and 2580 give the two handles, which fit the
+// chart's 32-bit integers. The chart owns both until it goes.
+constexpr int kImageHandlesWanted = 2574;
+constexpr int kImageBitmap = 2575;
+constexpr int kImageDC = 2580;
+
+struct ImageHandles {
+    HBITMAP bitmap = nullptr;
+    HDC dc = nullptr;
+    HGDIOBJ firstBitmap = nullptr; // the context's own, put back before the context goes
+};
+
+std::map<HWND, ImageHandles>& HandedOutImages() {
+    static std::map<HWND, ImageHandles> images;
+    return images;
+}
+
+void FreeImageHandles(HWND chart) {
+    auto it = HandedOutImages().find(chart);
+    if (it == HandedOutImages().end())
+        return;
+    ImageHandles& image = it->second;
+    if (image.dc) {
+        SelectObject(image.dc, image.firstBitmap);
+        DeleteDC(image.dc);
+    }
+    if (image.bitmap)
+        DeleteObject(image.bitmap);
+    HandedOutImages().erase(it);
+}
+
+void HandOutImage(HWND chart, ChartEngine& engine) {
+    const Canvas* picture = engine.Image();
+    if (engine.Properties().Int(kImageHandlesWanted, 0) != 1 || !picture)
+        return;
+    const int width = picture->Width(), height = picture->Height();
+    ImageHandles& image = HandedOutImages()[chart];
+    BITMAP info{};
+    if (image.bitmap && GetObject(image.bitmap, sizeof info, &info) &&
+        (info.bmWidth != width || info.bmHeight != height)) {
+        SelectObject(image.dc, image.firstBitmap);
+        DeleteObject(image.bitmap);
+        image.bitmap = nullptr;
+    }
+    if (!image.dc)
+        image.dc = CreateCompatibleDC(nullptr);
+    if (!image.bitmap) {
+        image.bitmap = CreateBitmap(width, height, 1, 32, nullptr);
+        if (image.dc && image.bitmap) {
+            HGDIOBJ previous = SelectObject(image.dc, image.bitmap);
+            if (!image.firstBitmap)
+                image.firstBitmap = previous;
+        }
+    }
+    if (Surface* pixels = GdiBitmapSurface(image.bitmap))
+        picture->BlitTo(*pixels, 0, 0, RECT{0, 0, width, height});
+    engine.Properties().SetInt(kImageBitmap, int(reinterpret_cast<std::uintptr_t>(image.bitmap)));
+    engine.Properties().SetInt(kImageDC, int(reinterpret_cast<std::uintptr_t>(image.dc)));
+}
 
 void Notify(HWND chart, unsigned short code) {
     HWND parent = GetParent(chart);
@@ -164,6 +227,7 @@ LRESULT ChartWndProc(HWND chart, UINT message, WPARAM wParam, LPARAM lParam) {
         }
         break;
     case WM_NCDESTROY:
+        FreeImageHandles(chart);
         if (g_drag.chart == chart)
             g_drag = {};
         if (g_lastChart.first == chart)
@@ -307,6 +371,7 @@ int ChartResetImage(HWND chart, int, int) {
     if (!engine)
         return 0;
     engine->ResetImage();
+    HandOutImage(chart, *engine);
     return 1;
 }
 
