@@ -1,44 +1,36 @@
-// Breaks an automation date into the nine fields the chart's date encoding takes.
-// The calendar arithmetic is the chart's own (ChartDate.h) until the platform offers the
-// system's date conversions.
+// Breaks an automation date into the nine fields the chart's date encoding takes, through the
+// platform's date conversions.
 
 #include "plot/PlotDate.h"
 
 #include "chart/ChartApi.h"
-#include "chart/ChartDate.h"
-
-#include <cmath>
+#include "platform/system/DateTime.h"
 
 namespace {
 
 constexpr int kYearBase = 1900;
-constexpr int kSaturday = 6; // day zero, 1899-12-30, was a Saturday; Sunday is 0
+constexpr int kFailedField = -1;
+constexpr int kFailedDayOfWeek = -2;
 
-bool IsLeapYear(int year) {
-    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-}
-
-int DayOfYear(int year, int month, int day) {
-    static constexpr int kDaysBefore[] = {0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334};
-    if (month < 1 || month > 12)
-        return -1;
-    return kDaysBefore[month - 1] + day + (month > 2 && IsLeapYear(year) ? 1 : 0);
+// One field of the date as the system converts it, asked afresh each time.
+int Field(double date, WORD SYSTEMTIME::*field, int failed) {
+    SYSTEMTIME time{};
+    return VariantTimeToSystemTime(date, &time) ? int(time.*field) : failed;
 }
 
 } // namespace
 
 double ChartSerialOfAutomationDate(double date) {
-    const ChartDateFields parts = DecodeChartDate(date);
-    const long long dayNumber = static_cast<long long>(std::floor(date));
     int fields[9] = {};
-    fields[0] = parts.month;
-    fields[1] = parts.day;
-    fields[2] = parts.year - kYearBase;
-    fields[3] = parts.hour;
-    fields[4] = parts.minute;
-    fields[5] = parts.second;
-    fields[7] = int(((dayNumber % 7) + 7 + kSaturday) % 7);
-    fields[8] = DayOfYear(parts.year, parts.month, parts.day);
+    fields[0] = Field(date, &SYSTEMTIME::wMonth, kFailedField);
+    fields[1] = Field(date, &SYSTEMTIME::wDay, kFailedField);
+    fields[2] = Field(date, &SYSTEMTIME::wYear, kFailedField) - kYearBase;
+    fields[3] = Field(date, &SYSTEMTIME::wHour, kFailedField);
+    fields[4] = Field(date, &SYSTEMTIME::wMinute, kFailedField);
+    fields[5] = Field(date, &SYSTEMTIME::wSecond, kFailedField);
+    fields[7] = Field(date, &SYSTEMTIME::wDayOfWeek, kFailedDayOfWeek);
+    UDATE udate{};
+    fields[8] = VarUdateFromDate(date, 0, &udate) == S_OK ? int(udate.wDayOfYear) : kFailedField;
     double serial = date;
     ChartEncodeDateTime(&serial, fields, 1);
     return serial;
