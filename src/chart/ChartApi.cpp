@@ -22,6 +22,7 @@
 #include <cstring>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 
 extern char** environ;
@@ -60,6 +61,20 @@ RECT ZoomBox(HWND chart, ChartEngine& engine) {
 }
 std::pair<HWND, ChartEngine*> g_lastChart{nullptr, nullptr};
 
+// Charts whose image waits to be drawn again. ChartResetImage only marks it: a chart fed point
+// by point and reset after each is drawn once, when it is next painted or its image is
+// handed out.
+std::set<HWND>& StaleImages() {
+    static std::set<HWND> charts;
+    return charts;
+}
+
+void BringImageUpToDate(HWND chart, ChartEngine& engine) {
+    if (StaleImages().erase(chart) != 0 || !engine.Image() ||
+        engine.Image()->Width() != engine.Width() || engine.Image()->Height() != engine.Height())
+        engine.ResetImage();
+}
+
 // The image handed out as a bitmap selected into a memory context, for callers that copy the
 // chart elsewhere: property 2574 asks for it, 2575 and 2580 give the two handles, which fit the
 // chart's 32-bit integers. The chart owns both until it goes.
@@ -93,8 +108,11 @@ void FreeImageHandles(HWND chart) {
 }
 
 void HandOutImage(HWND chart, ChartEngine& engine) {
+    if (engine.Properties().Int(kImageHandlesWanted, 0) != 1)
+        return;
+    BringImageUpToDate(chart, engine);
     const Canvas* picture = engine.Image();
-    if (engine.Properties().Int(kImageHandlesWanted, 0) != 1 || !picture)
+    if (!picture)
         return;
     const int width = picture->Width(), height = picture->Height();
     ImageHandles& image = HandedOutImages()[chart];
@@ -136,9 +154,7 @@ void Repaint(HWND chart, ChartEngine& engine) {
 void Paint(HWND chart, ChartEngine& engine) {
     PAINTSTRUCT paint{};
     HDC dc = BeginPaint(chart, &paint);
-    if (!engine.Image() || engine.Image()->Width() != engine.Width() ||
-        engine.Image()->Height() != engine.Height())
-        engine.ResetImage();
+    BringImageUpToDate(chart, engine);
     POINT origin{};
     if (Surface* surface = dc ? GdiSurfaceOf(dc, &origin) : nullptr) {
         if (engine.Image()) {
@@ -228,6 +244,7 @@ LRESULT ChartWndProc(HWND chart, UINT message, WPARAM wParam, LPARAM lParam) {
         break;
     case WM_NCDESTROY:
         FreeImageHandles(chart);
+        StaleImages().erase(chart);
         if (g_drag.chart == chart)
             g_drag = {};
         if (g_lastChart.first == chart)
@@ -370,7 +387,7 @@ int ChartResetImage(HWND chart, int, int) {
     ChartEngine* engine = ChartEngineOf(chart);
     if (!engine)
         return 0;
-    engine->ResetImage();
+    StaleImages().insert(chart);
     HandOutImage(chart, *engine);
     return 1;
 }

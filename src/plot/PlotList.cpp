@@ -22,6 +22,14 @@ bool EPlotList::Contains(const EPlot* plot) const {
     return std::find(m_plots.begin(), m_plots.end(), plot) != m_plots.end();
 }
 
+template <class Call> void EPlotList::ForEachPlot(Call call) {
+    const std::vector<EPlot*> plots(m_plots.begin(), m_plots.end());
+    const unsigned long long removals = m_removals;
+    for (EPlot* plot : plots)
+        if (m_removals == removals || Contains(plot))
+            call(plot);
+}
+
 bool EPlotList::Leaving(const EPlot* plot) const {
     return std::find(m_leaving.begin(), m_leaving.end(), plot) != m_leaving.end();
 }
@@ -64,9 +72,10 @@ void EPlotList::DeletePlot(HWND chart) {
 }
 
 void EPlotList::DeletePlots(zvk::CStdStr<char> type) {
-    for (EPlot* plot : Snapshot())
-        if (Contains(plot) && (type == g_plotsAll || plot->GetType() == type))
+    ForEachPlot([&](EPlot* plot) {
+        if (type == g_plotsAll || plot->GetType() == type)
             ClosePlotWindow(plot->GetId(), plot->GetHwnd());
+    });
 }
 
 void EPlotList::RemovePlotFromList(HWND chart) {
@@ -80,21 +89,18 @@ void EPlotList::RemovePlotFromList(HWND chart) {
         if (Contains(plot))
             ClosePlotWindow(plot->GetId(), chart);
         m_plots.remove(plot);
+        ++m_removals;
     }
     for (EPlot* plot : going)
         m_leaving.erase(std::find(m_leaving.begin(), m_leaving.end(), plot));
 }
 
 void EPlotList::UpdatePlots(const std::bitset<36>& which, void* data) {
-    for (EPlot* plot : Snapshot())
-        if (Contains(plot))
-            plot->UpdatePlot(which, data);
+    ForEachPlot([&](EPlot* plot) { plot->UpdatePlot(which, data); });
 }
 
 void EPlotList::ChangeSelectedPoint(int point) {
-    for (EPlot* plot : Snapshot())
-        if (Contains(plot))
-            plot->ChangeSelectedPoint(point);
+    ForEachPlot([&](EPlot* plot) { plot->ChangeSelectedPoint(point); });
 }
 
 void EPlotList::GetPlotIds(int* count, int** ids, const char* type) {

@@ -46,14 +46,15 @@ public:
     bool ImportFile(const char* path);
 
 private:
-    // Plots are called in list order while their hooks may end other plots: walk a copy and
-    // skip what has left meanwhile.
-    std::vector<EPlot*> Snapshot() const { return {m_plots.begin(), m_plots.end()}; }
+    // Calls `call` on each plot in list order. A hook may end other plots: the walk goes over a
+    // copy and, once anything has left the list, skips the plots no longer in it.
+    template <class Call> void ForEachPlot(Call call);
     bool Contains(const EPlot* plot) const;
     bool Leaving(const EPlot* plot) const;
 
     int m_nextId = 0;
     std::list<EPlot*> m_plots;
+    unsigned long long m_removals = 0; // plots taken out so far
     // Plots whose windows are being closed on their way out: the closed callback must not
     // delete them a second time.
     std::vector<const EPlot*> m_leaving;
