@@ -248,3 +248,52 @@ TEST_F(PlotObjectTest, CanvasFollowsItsSizeAndKeepsItsBorderType) {
 }
 
 } // namespace
+
+namespace {
+
+// A plot whose points the user may drag up and down.
+class DraggablePlot : public RecordingPlot {
+public:
+    using RecordingPlot::RecordingPlot;
+    void PlotClick(int curve, int point, Pt2<double>, unsigned char* drag,
+                   unsigned char*) override {
+        *drag = curve >= 0 ? 1 : 0;
+    }
+    int CheckDragPoint(int, int, Pt2<double>, Pt2<double>*, unsigned char* moveX,
+                       unsigned char* moveY) override {
+        *moveX = 0;
+        *moveY = 1;
+        return 1;
+    }
+    void EndDrag(int curve, int point, Pt2<double>, Pt2<double>* end) override {
+        ended = {curve, point};
+        endY = end->y;
+    }
+    std::pair<int, int> ended{-1, -1};
+    double endY = 0;
+};
+
+class PlotDragTest : public PlotFixture {};
+
+TEST_F(PlotDragTest, DraggingAPointMovesOnlyItsY) {
+    auto* plot = new DraggablePlot(kLineChart, "Drag", nullptr, 1, 0);
+    FillLine(*plot);
+    driver.Pump();
+    driver.Drag(plot->GetHwnd(), PixelOf(*plot, 5, 50), PixelOf(*plot, 6, 80));
+    EXPECT_EQ(plot->ended, std::make_pair(0, 5));
+    EXPECT_NEAR(plot->endY, 80, 1.0);
+    double x = 0, y = 0;
+    ChartGetElement(plot->GetHwnd(), XData, 5, &x);
+    ChartGetElement(plot->GetHwnd(), YData, 5, &y);
+    EXPECT_EQ(x, 5.0); // no X was written
+    EXPECT_NEAR(y, 80, 1.0);
+
+    // A button-up with no drag under way does nothing and is handled.
+    plot->ended = {-1, -1};
+    EXPECT_EQ(pmHandlePlotEvent(PLOTEVT_BUTTONUP, plot->GetHwnd()), 1);
+    EXPECT_EQ(plot->ended, std::make_pair(-1, -1));
+    // A right click on a plot without a menu is left to the chart.
+    EXPECT_EQ(pmHandlePlotEvent(PLOTEVT_RBUTTON, plot->GetHwnd()), 0);
+}
+
+} // namespace
