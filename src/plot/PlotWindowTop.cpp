@@ -11,7 +11,7 @@ bool CPlotWindowTop::RegisterWindowClass() {
     if (GetClassInfo(nullptr, kPlotTopWindowClass, &wc))
         return true;
     wc.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
-    wc.lpfnWndProc = AfxWndProc;
+    wc.lpfnWndProc = ::DefWindowProc;
     wc.hCursor = LoadCursor(nullptr, IDC_ARROW);
     wc.lpszClassName = kPlotTopWindowClass;
     return AfxRegisterClass(&wc) != FALSE;
