@@ -8,6 +8,7 @@
 #include "platform/base/Messages.h"
 #include "platform/window/Wnd.h"
 #include "plot/PlotList.h"
+#include "plot/PlotWindow.h"
 #include "plot/PlotWindows.h"
 
 #include <cstdint>
@@ -25,6 +26,10 @@ constexpr int kTitleBuffer = 1024;
 constexpr int kBitmapSize[] = {600, 430};
 constexpr int kMetafileSize[] = {500, 300};
 
+// The document area's messages: which child is active (and whether maximised), and restore.
+constexpr UINT kMdiGetActive = 0x0229;
+constexpr UINT kMdiRestore = 0x0223;
+
 constexpr int kKeepImageHandles = 2155; // 1: the chart keeps a device context on its image
 constexpr int kImageBitmapWanted = 2574;
 constexpr int kImageBitmap = 2575;
@@ -33,6 +38,18 @@ constexpr int kImageDC = 2580;
 // A handle read back through the chart's 32-bit integers.
 template <class Handle> Handle HandleFromInt(int value) {
     return reinterpret_cast<Handle>(std::uintptr_t(std::uint32_t(value)));
+}
+
+// A new document window opens restored: a maximised active document is restored first.
+void RestoreMaximisedDocument() {
+    HWND area = PlotDocumentArea();
+    if (!area || area == SafeHwnd(AfxGetMainWnd()))
+        return; // no document area: the main window is no document frame
+    BOOL maximised = FALSE;
+    auto active = reinterpret_cast<HWND>(
+        SendMessage(area, kMdiGetActive, 0, reinterpret_cast<LPARAM>(&maximised)));
+    if (active && maximised)
+        SendMessage(area, kMdiRestore, reinterpret_cast<WPARAM>(active), 0);
 }
 
 } // namespace
@@ -46,6 +63,8 @@ EPlot::EPlot(int chartType, const char* title, CRect* rect, unsigned char top, u
         windowTitle.Format("Plot %d", m_id);
     else if (title)
         windowTitle = title;
+    if (!top)
+        RestoreMaximisedDocument();
     if (hint)
         windowTitle += kHintSuffix;
     m_hwnd = CreatePlotWindow(chartType, windowTitle.c_str(), m_id, -1, nullptr, rect, top);
