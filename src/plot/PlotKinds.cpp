@@ -10,6 +10,8 @@
 #include "plot/PlotData.h"
 #include "plot/PlotDate.h"
 
+#include <algorithm>
+
 using namespace chartprop;
 
 namespace {
@@ -87,7 +89,8 @@ void EPlotRealtime::AppendPoint(double x, double y) {
 
 void EPlotRealtime::ClearPlot() {
     EPlotData blank;
-    blank.Initialize(1, ChartGetInt(m_hwnd, PointCount), 0);
+    // A negative count in the chart would be an absurd size for the staging vectors.
+    blank.Initialize(1, std::max(ChartGetInt(m_hwnd, PointCount), 0), 0);
     blank.UpdatePlotFromData(m_hwnd);
 }
 

@@ -104,6 +104,8 @@ void EPlotList::ChangeSelectedPoint(int point) {
 }
 
 void EPlotList::GetPlotIds(int* count, int** ids, const char* type) {
+    if (!count || !ids)
+        return;
     *count = 0;
     *ids = nullptr;
     for (EPlot* plot : m_plots) {

@@ -105,6 +105,8 @@ TEST_F(PlotKindsTest, RealtimePlotScrollsInPointsOnTheClock) {
     plot->ClearPlot();
     for (double y : Values(chart, YData))
         EXPECT_EQ(y, MissingValue);
+    plot->SetNumberOfPoints(-1); // nonsense from the caller leaves an empty curve
+    EXPECT_TRUE(Values(chart, YData).empty());
 }
 
 TEST_F(PlotKindsTest, RealtimeDatesBecomeTheChartsSerials) {
