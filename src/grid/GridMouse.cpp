@@ -381,7 +381,8 @@ void CGridCtrl::OnLButtonUp(UINT flags, CPoint point) {
     CWnd::OnLButtonUp(flags, point);
     m_lMouseButtonDown = FALSE;
     ::ClipCursor(nullptr);
-    if (GetCapture() == this) {
+    const bool hadCapture = GetCapture() == this;
+    if (hadCapture) {
         ::ReleaseCapture();
         KillTimer(m_timerId);
         m_timerId = 0;
@@ -446,6 +447,11 @@ void CGridCtrl::OnLButtonUp(UINT flags, CPoint point) {
     }
     m_mouseMode = MOUSE_NOTHING;
     ShowCursor(IDC_ARROW);
+    // The move that follows a release of the capture finds a divider still under the pointer,
+    // so that a double click there fits the column.
+    if (hadCapture) {
+        PostMessage(WM_MOUSEMOVE, flags & ~MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    }
 
     // A click also arrives as a command, after everything else.
     if (IsValid(m_leftClickDownCell)) {
