@@ -58,7 +58,9 @@ DROPEFFECT COleDropTarget::OnDragScroll(CWnd*, DWORD, CPoint) {
 }
 
 COleDropTarget* COleDropTarget::FindAt(HWND window, HWND* registeredWindow) {
-    for (HWND at = window; at != nullptr; at = ::GetAncestor(at, GA_PARENT)) {
+    // Up the chain of parents; a top-level window's parent is the desktop, where it ends.
+    const HWND desktop = ::GetDesktopWindow();
+    for (HWND at = window; at != nullptr && at != desktop; at = ::GetAncestor(at, GA_PARENT)) {
         const auto found = Targets().find(at);
         if (found != Targets().end() && ::IsWindow(at)) {
             *registeredWindow = at;
