@@ -1,4 +1,8 @@
+// Text output and measurement of the device context, through Pango. Single lines go through
+// the cache of shaped texts.
+
 #include "platform/gdi/GdiInternal.h"
+#include "platform/gdi/TextLayoutCache.h"
 
 #include <algorithm>
 #include <cstring>
@@ -184,6 +188,35 @@ int EndEllipsis(FontObject* font, PreparedText& prepared, int width) {
     return widthWith(low);
 }
 
+void SetTabs(PangoLayout* layout, UINT format, const TEXTMETRIC& tm) {
+    if ((format & DT_EXPANDTABS) == 0)
+        return;
+    PangoTabArray* tabs = pango_tab_array_new_with_positions(
+        1, TRUE, PANGO_TAB_LEFT, 8 * std::max<LONG>(1, tm.tmAveCharWidth));
+    pango_layout_set_tabs(layout, tabs);
+    pango_tab_array_free(tabs);
+}
+
+// The layout of a text on one line, and its width. Plain texts come shaped from the cache;
+// prefixed ones and those with tabs to expand are laid out afresh.
+PangoLayout* SingleLine(FontObject* font, const PreparedText& prepared, UINT format,
+                        const TEXTMETRIC& tm, int& width) {
+    const std::string& text = prepared.text;
+    width = 0;
+    if (text.empty())
+        return nullptr;
+    const bool tabs = (format & DT_EXPANDTABS) && text.find('\t') != std::string::npos;
+    if (prepared.underlines.empty() && !tabs) {
+        const ShapedText shaped = SharedTextLayouts().Shape(font, text);
+        width = shaped.width;
+        return shaped.layout;
+    }
+    PangoLayout* layout = Layout(font, text.data(), int(text.size()), &prepared.underlines);
+    SetTabs(layout, format, tm);
+    width = LayoutWidth(layout);
+    return layout;
+}
+
 } // namespace
 
 int CDC::DrawText(LPCTSTR raw, int count, LPRECT rect, UINT format) {
@@ -200,16 +233,10 @@ int CDC::DrawText(LPCTSTR raw, int count, LPRECT rect, UINT format) {
     int rectWidth = rect->right - rect->left, rectHeight = rect->bottom - rect->top;
     int lineHeight = tm.tmHeight + ((format & DT_EXTERNALLEADING) ? tm.tmExternalLeading : 0);
 
-    PangoLayout* layout = Layout(font, text.data(), int(text.size()), &prepared.underlines);
-    if (format & DT_EXPANDTABS) {
-        PangoTabArray* tabs = pango_tab_array_new_with_positions(
-            1, TRUE, PANGO_TAB_LEFT, 8 * std::max<LONG>(1, tm.tmAveCharWidth));
-        pango_layout_set_tabs(layout, tabs);
-        pango_tab_array_free(tabs);
-    }
+    PangoLayout* layout = nullptr;
     int width, height;
     if (singleLine) {
-        width = text.empty() ? 0 : LayoutWidth(layout);
+        layout = SingleLine(font, prepared, format, tm, width);
         height = lineHeight;
         if ((format & DT_END_ELLIPSIS) && (format & DT_CALCRECT) == 0 && width > rectWidth &&
             !text.empty()) {
@@ -217,6 +244,8 @@ int CDC::DrawText(LPCTSTR raw, int count, LPRECT rect, UINT format) {
             layout = Layout(font, text.data(), int(text.size()), &prepared.underlines);
         }
     } else {
+        layout = Layout(font, text.data(), int(text.size()), &prepared.underlines);
+        SetTabs(layout, format, tm);
         if (format & DT_WORDBREAK) {
             pango_layout_set_width(layout, std::max(1, rectWidth) * PANGO_SCALE);
             pango_layout_set_wrap(layout, PANGO_WRAP_WORD_CHAR);
@@ -295,8 +324,9 @@ BOOL CDC::ExtTextOut(int x, int y, UINT options, LPCRECT rect, LPCTSTR raw, UINT
     static std::string text; // reused between calls; single-threaded
     text.clear();
     AppendUtf8(text, raw, int(count));
-    PangoLayout* layout = Layout(font, text.data(), int(text.size()));
-    int width = LayoutWidth(layout);
+    const ShapedText shaped = SharedTextLayouts().Shape(font, text);
+    PangoLayout* layout = shaped.layout;
+    const int width = shaped.width;
 
     UINT align = dc->attributes.textAlign;
     if (align & TA_UPDATECP) {
@@ -344,7 +374,7 @@ CSize CDC::GetTextExtent(LPCTSTR raw, int count) const {
     static std::string text; // reused between calls; single-threaded
     text.clear();
     AppendUtf8(text, raw, length);
-    return CSize(LayoutWidth(Layout(font, text.data(), int(text.size()))), Metrics(font).tmHeight);
+    return CSize(SharedTextLayouts().Shape(font, text).width, Metrics(font).tmHeight);
 }
 
 CSize CDC::GetTextExtent(const CString& text) const {

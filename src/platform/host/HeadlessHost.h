@@ -25,6 +25,7 @@ public:
 
     DWORD Now() const override { return m_now; }
     bool AdvanceClock(DWORD milliseconds) override;
+    bool HasUser() const override { return false; }
     bool WaitForEvents(std::optional<DWORD> deadline) override;
 
     void SetClipboardText(const std::string& text) override { m_clipboardText = text; }

@@ -35,6 +35,8 @@ public:
     virtual DWORD Now() const = 0;
     // Moves a virtual clock on; a host on real time answers false and does nothing.
     virtual bool AdvanceClock(DWORD milliseconds) = 0;
+    // True when a person can give input: modal loops wait for it only then.
+    virtual bool HasUser() const = 0;
     // Waits until input arrives or the clock reaches `deadline`, delivering the input. Answers
     // false when nothing can arrive any more (a headless host with no deadline).
     virtual bool WaitForEvents(std::optional<DWORD> deadline) = 0;

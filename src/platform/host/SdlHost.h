@@ -37,6 +37,7 @@ public:
 
     DWORD Now() const override;
     bool AdvanceClock(DWORD) override { return false; }
+    bool HasUser() const override { return true; }
     bool WaitForEvents(std::optional<DWORD> deadline) override;
 
     void SetClipboardText(const std::string& text) override;

@@ -1,5 +1,6 @@
 // The default procedure: what a window does with a message that its own procedure passes on.
 
+#include "platform/window/MenuTracker.h"
 #include "platform/window/ScrollBarTracking.h"
 #include "platform/window/WindowRecord.h"
 
@@ -8,6 +9,7 @@
 #include "platform/system/SysColors.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstring>
 
 namespace wm {
@@ -29,6 +31,8 @@ LRESULT HitTest(const WindowRecord& w, CPoint screen) {
     if (bar == SB_HORZ)
         return HTHSCROLL;
     const FrameMetrics m = GetFrameMetrics(w);
+    if (MenuBarInWindow(w).PtInRect(p))
+        return HTMENU;
     if (m.caption && p.y >= m.border && p.y < m.border + m.caption && p.x >= m.border &&
         p.x < w.rect.Width() - m.border)
         return HTCAPTION;
@@ -53,6 +57,18 @@ LRESULT SetText(WindowRecord& w, const char* text) {
     return TRUE;
 }
 
+// The top-level window whose menu bar the keyboard opens, or null.
+HWND MenuBarOwner(HWND hwnd) {
+    const HWND root = GetAncestor(hwnd, GA_ROOT);
+    return GetMenu(root) ? root : nullptr;
+}
+
+// Alt pressed and released with no key between opens the menu bar, as F10 does.
+UINT& LastSystemKeyDown() {
+    static UINT vk = 0;
+    return vk;
+}
+
 LRESULT GetText(const WindowRecord& w, WPARAM maxCount, char* buffer) {
     if (!buffer || maxCount == 0)
         return 0;
@@ -60,6 +76,33 @@ LRESULT GetText(const WindowRecord& w, WPARAM maxCount, char* buffer) {
     std::memcpy(buffer, w.text.data(), n);
     buffer[n] = '\0';
     return LRESULT(n);
+}
+// The menu bar from the keyboard (with the character of Alt+letter in `lParam`), closing and
+// the frame's other system commands.
+LRESULT SystemCommand(HWND hwnd, WPARAM wParam, LPARAM lParam) {
+    switch (wParam & 0xFFF0) {
+    case SC_KEYMENU: {
+        const HWND frame = MenuBarOwner(hwnd);
+        if (!frame)
+            return 0;
+        int item = -1;
+        if (const char ch = char(std::tolower(int(lParam & 0xFF)))) {
+            const MenuRecord* bar = FindMenu(GetMenu(frame));
+            for (size_t i = 0; bar && i < bar->items.size() && item < 0; ++i)
+                if (MenuMnemonic(bar->items[i].text) == ch)
+                    item = int(i);
+            if (item < 0)
+                return 0;
+        }
+        TrackMenuBar(frame, item, true);
+        return 0;
+    }
+    case SC_CLOSE:
+        PostMessage(hwnd, WM_CLOSE);
+        return 0;
+    default:
+        return 0;
+    }
 }
 } // namespace
 
@@ -70,7 +113,18 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND parent = IsTopLevel(*w) ? nullptr : w->parent;
     switch (message) {
     case WM_NCCREATE:
+        if (const auto* cs = reinterpret_cast<const CREATESTRUCT*>(lParam);
+            cs && !(w->style & WS_CHILD) && cs->hMenu && IsMenu(cs->hMenu))
+            w->menu = cs->hMenu;
         return TRUE;
+    case WM_NCDESTROY:
+        // A frame's menu bar goes with it.
+        if (w->menu && !(w->style & WS_CHILD)) {
+            const HMENU menu = w->menu;
+            w->menu = nullptr;
+            DestroyMenu(menu);
+        }
+        return 0;
     case WM_CLOSE:
         DestroyWindow(hwnd);
         return 0;
@@ -110,7 +164,13 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NCHITTEST:
         return HitTest(*w, CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
     case WM_NCLBUTTONDOWN:
-    case WM_NCLBUTTONDOWN + 2: // WM_NCLBUTTONDBLCLK
+    case WM_NCLBUTTONDBLCLK:
+        if (wParam == HTMENU) {
+            TrackMenuBar(hwnd,
+                         MenuBarItemAt(hwnd, CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam))),
+                         false);
+            return 0;
+        }
         if (wParam == HTVSCROLL || wParam == HTHSCROLL)
             BeginScrollBarTracking(hwnd, wParam == HTVSCROLL ? SB_VERT : SB_HORZ,
                                    CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
@@ -169,6 +229,26 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
                 SetFocus(hwnd);
         }
         return 0;
+    case WM_SYSKEYDOWN:
+        if (parent)
+            return SendMessage(parent, message, wParam, lParam);
+        LastSystemKeyDown() = UINT(wParam);
+        return 0;
+    case WM_SYSKEYUP:
+        if (parent)
+            return SendMessage(parent, message, wParam, lParam);
+        if ((wParam == VK_MENU || wParam == VK_F10) && LastSystemKeyDown() == wParam)
+            SendMessage(hwnd, WM_SYSCOMMAND, SC_KEYMENU, 0);
+        LastSystemKeyDown() = 0;
+        return 0;
+    case WM_SYSCHAR:
+        if (parent)
+            return SendMessage(parent, message, wParam, lParam);
+        LastSystemKeyDown() = 0;
+        SendMessage(hwnd, WM_SYSCOMMAND, SC_KEYMENU, LPARAM(wParam & 0xFF));
+        return 0;
+    case WM_SYSCOMMAND:
+        return SystemCommand(hwnd, wParam, lParam);
     case WM_SETREDRAW:
         w->redraw = wParam != 0;
         return 0;

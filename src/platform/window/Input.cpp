@@ -6,6 +6,7 @@
 #include "platform/host/Host.h"
 #include "platform/window/InputState.h"
 #include "platform/window/KeyboardLayout.h"
+#include "platform/window/MenuTracker.h"
 #include "platform/window/ScrollBarTracking.h"
 #include "platform/window/WindowRecord.h"
 
@@ -102,6 +103,9 @@ UINT ButtonMessage(UINT button, bool down) {
 }
 
 HWND KeyboardTarget() {
+    // An open menu takes the keys, wherever the focus is.
+    if (HWND menu = MenuInputWindow())
+        return menu;
     if (HWND focus = GetFocus())
         return focus;
     return GetActiveWindow();
@@ -149,7 +153,9 @@ void InjectKey(UINT vk, bool down) {
     if (!target)
         return;
     const bool alt = (Input().keys[VK_MENU] & 0x80) != 0;
-    const bool system = (alt && !(Input().keys[VK_CONTROL] & 0x80)) || vk == VK_MENU;
+    // F10 is the keyboard's way into the menu bar, so it is a system key like Alt.
+    const bool system =
+        (alt && !(Input().keys[VK_CONTROL] & 0x80)) || vk == VK_MENU || vk == VK_F10;
     UINT message = down ? WM_KEYDOWN : WM_KEYUP;
     if (system)
         message = down ? WM_SYSKEYDOWN : WM_SYSKEYUP;

@@ -1,6 +1,7 @@
 // Draws the non-client area in the classic look: the outer frame, the caption of a top-level
-// window, the sunken client edge, and the scroll bars.
+// window, its menu bar, the sunken client edge, and the scroll bars.
 
+#include "platform/window/MenuTracker.h"
 #include "platform/window/ScrollBarTracking.h"
 
 #include "platform/gdi/DC.h"
@@ -46,6 +47,18 @@ void DrawCaption(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& r
     rect.top += m.caption;
 }
 
+void DrawMenuBar(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& rect) {
+    const MenuRecord* menu = m.menuBar ? FindMenu(w.menu) : nullptr;
+    if (!menu)
+        return;
+    bool open = false;
+    const MenuTracker* tracker = CurrentMenuTracker();
+    const int hot = tracker ? tracker->BarHotItem(w.handle, &open) : -1;
+    PaintMenuBar(dc.GetSafeHdc(), *menu,
+                 CRect(rect.left, rect.top, rect.right, rect.top + m.menuBar), hot, open);
+    rect.top += m.menuBar;
+}
+
 void DrawEdges(const WindowRecord& w, CDC& dc, CRect& rect) {
     if (w.exStyle & WS_EX_CLIENTEDGE) {
         dc.DrawEdge(&rect, EDGE_SUNKEN, BF_RECT);
@@ -67,6 +80,7 @@ void DrawFrame(const WindowRecord& w, HDC windowDC) {
     CRect rect(CPoint(0, 0), w.rect.Size());
     DrawOuterFrame(w, *dc, m, rect);
     DrawCaption(w, *dc, m, rect);
+    DrawMenuBar(w, *dc, m, rect);
     DrawEdges(w, *dc, rect);
     DrawScrollBars(w, windowDC);
 }

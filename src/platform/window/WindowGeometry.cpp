@@ -29,6 +29,10 @@ FrameMetrics GetFrameMetrics(const WindowRecord& w) {
         m.caption = GetSystemMetrics(SM_CYCAPTION);
         m.top += m.caption;
     }
+    if (w.menu && !(w.style & WS_CHILD)) {
+        m.menuBar = GetSystemMetrics(SM_CYMENU);
+        m.top += m.menuBar;
+    }
     m.vscroll = (w.style & WS_VSCROLL) != 0;
     m.hscroll = (w.style & WS_HSCROLL) != 0;
     if (m.vscroll)

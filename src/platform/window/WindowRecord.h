@@ -44,6 +44,9 @@ struct WindowRecord {
     CSize announcedClient; // the client size that the last WM_SIZE told of
     std::string text;
     HFONT font = nullptr;
+    HMENU menu = nullptr; // the menu bar of a top-level window
+    HICON bigIcon = nullptr;
+    HICON smallIcon = nullptr;
 
     CRect update; // client coordinates; empty when nothing is invalid
     bool eraseOnPaint = false;
@@ -71,6 +74,7 @@ bool IsTopLevel(const WindowRecord& w);
 struct FrameMetrics {
     int left = 0, top = 0, right = 0, bottom = 0; // border, edge and caption
     int caption = 0;                              // height of the caption within `top`
+    int menuBar = 0;                              // height of the menu bar within `top`
     int border = 0;                               // the outer frame, inside which the caption sits
     bool vscroll = false, hscroll = false;
 };
