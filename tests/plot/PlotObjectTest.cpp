@@ -208,9 +208,12 @@ TEST_F(PlotObjectTest, ClicksReachTheHooksFromEveryHost) {
     ASSERT_EQ(top->clicks.size(), 2u);
     EXPECT_EQ(top->clicks[1], std::make_pair(0, 4));
 
+    CWnd dialog; // the application's own window that holds the canvas
+    ASSERT_TRUE(dialog.CreateEx(0, nullptr, "Dialog", WS_POPUP | WS_VISIBLE, 0, 0, 340, 260,
+                                nullptr, nullptr));
     PlotCanvas canvas;
     ASSERT_TRUE(canvas.Create(kPlotCanvasClass, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 320, 240),
-                              &mainWindow, 5));
+                              &dialog, 5));
     auto* inCanvas = new RecordingPlot(kLineChart, "", kCanvasControl, 0, canvas.m_hWnd);
     EXPECT_EQ(canvas.GetPlotHwnd(), inCanvas->GetHwnd());
     EXPECT_EQ(GetDlgCtrlID(inCanvas->GetHwnd()), kCanvasControl);
@@ -223,6 +226,7 @@ TEST_F(PlotObjectTest, ClicksReachTheHooksFromEveryHost) {
     canvas.DestroyWindow();
     EXPECT_FALSE(IsWindow(inCanvas->GetHwnd()));
     delete inCanvas;
+    dialog.DestroyWindow();
 }
 
 TEST_F(PlotObjectTest, CanvasFollowsItsSizeAndKeepsItsBorderType) {
