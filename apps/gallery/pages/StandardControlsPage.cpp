@@ -113,6 +113,7 @@ void PrintPlaces(GalleryContext& context, CDialog& dialog) {
     print("method-arrow", CPoint(method.right - 8, method.CenterPoint().y));
     const int row = int(dialog.GetDlgItem(kMethod)->SendMessage(CB_GETITEMHEIGHT, 0));
     print("method-list-row-1", CPoint(method.left + 20, method.bottom + 1 + row + row / 2));
+    print("size-grip", rectOf(kGrip).CenterPoint());
 }
 
 void BuildStandardControlsPage(GalleryContext& context) {
