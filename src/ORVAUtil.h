@@ -52,7 +52,21 @@
 #include "controls/DialogORVA.h"
 
 // Plot.
+#include "plot/Plot.h"
+#include "plot/PlotApi.h"
+#include "plot/PlotBar.h"
+#include "plot/PlotCanvas.h"
 #include "plot/PlotData.h"
+#include "plot/PlotEvents.h"
+#include "plot/PlotFileValues.h"
+#include "plot/PlotLegend.h"
+#include "plot/PlotList.h"
+#include "plot/PlotRealtime.h"
+#include "plot/PlotScatter.h"
+#include "plot/PlotWindow.h"
+#include "plot/PlotWindowTop.h"
+#include "plot/PlotWindows.h"
+#include "plot/RightMenu.h"
 
 // Support.
 #include "support/DataReader.h"
