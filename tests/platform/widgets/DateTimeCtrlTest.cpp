@@ -263,6 +263,18 @@ TEST_F(DateTimeCtrlTest, TheRegionalFormatIsReadWhenTheStyleAsksForIt) {
     EXPECT_EQ(Date(), "2/1/2024"); // the first field is now the day
     ui.Type(".3");
     EXPECT_EQ(Date(), "3/1/2024");
+
+    // The style's bits choose among the regional formats: the century date (here with the
+    // up-down control) starts with the day as the short date does, the time with the hour.
+    picker.ModifyStyle(0, DTS_SHORTDATECENTURYFORMAT | DTS_UPDOWN);
+    ui.PressKey(VK_HOME);
+    ui.PressKey(VK_UP);
+    EXPECT_EQ(Date(), "3/2/2024");
+    picker.ModifyStyle(DTS_SHORTDATECENTURYFORMAT, DTS_TIMEFORMAT);
+    ui.PressKey(VK_HOME);
+    ui.PressKey(VK_UP);
+    EXPECT_EQ(Date(), "3/2/2024");
+    EXPECT_EQ(Clock(), "11:30:15");
 }
 
 TEST_F(DateTimeCtrlTest, TheButtonOpensTheCalendarAndAClickOnADayPicksIt) {
