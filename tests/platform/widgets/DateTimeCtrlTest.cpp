@@ -366,6 +366,35 @@ TEST_F(DateTimeCtrlTest, AParentThatEndsThePickerWhileItDropsDownLeavesNoCalenda
     EXPECT_EQ(GetCapture(), nullptr);
 }
 
+// An editor over the picker, as a grid lays one over a cell: it tells the focus moving to its
+// own calendar from the focus leaving it.
+class EditorPicker : public CDateTimeCtrl {
+public:
+    std::vector<bool> toOwnCalendar;
+
+protected:
+    void OnKillFocus(CWnd* next) override {
+        toOwnCalendar.push_back(next != nullptr && next == GetMonthCalCtrl());
+        CDateTimeCtrl::OnKillFocus(next);
+    }
+};
+
+TEST_F(DateTimeCtrlTest, ADerivedEditorSeesTheFocusGoToItsOwnCalendar) {
+    EditorPicker editor;
+    ASSERT_TRUE(editor.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 250, 74), &parent, 103));
+    editor.SetTime(&kLeapDayMorning);
+    CRect client;
+    editor.GetClientRect(&client);
+    // The click that opens an editor is passed on to it, and drops the calendar down.
+    editor.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON,
+                       MAKELPARAM(WORD(client.right - 6), WORD(client.Height() / 2)));
+    ASSERT_NE(editor.GetMonthCalCtrl(), nullptr);
+    ui.Click(editor.GetMonthCalCtrl()->m_hWnd, CPoint(-20, -20)); // outside: closes
+    EXPECT_EQ(editor.GetMonthCalCtrl(), nullptr);
+    other.SetFocus();
+    EXPECT_EQ(editor.toOwnCalendar, (std::vector<bool>{true, false}));
+}
+
 TEST_F(DateTimeCtrlTest, SetAndGetTimeRefuseWhatIsNoDateAndKeepToTheRange) {
     SYSTEMTIME bad = kLeapDayMorning;
     bad.wYear = 2023;
