@@ -2,7 +2,7 @@
 // the keys and the mouse, the drop-down calendar, the DTM_ messages, and the window class.
 //
 // Sections: the format and its layout; painting; editing the fields; the drop-down calendar;
-// the DTM_ messages; the window procedure and its class.
+// the DTM_ messages; the window class.
 
 #include "platform/widgets/DateTimePicker.h"
 
@@ -15,8 +15,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <map>
-#include <memory>
 #include <utility>
 
 namespace {
@@ -568,7 +566,7 @@ LRESULT DateTimePicker::GetRange(SYSTEMTIME* range) const {
     return which;
 }
 
-// The window procedure and its class.
+// The messages and the window class.
 
 LRESULT DateTimePicker::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
