@@ -15,7 +15,9 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <memory>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -450,6 +452,50 @@ TEST_F(DateTimeCtrlTest, UpDownStyleStepsTheFieldInsteadOfDroppingDown) {
     EXPECT_EQ(Date(), "2/29/2024");
     ui.PressKey(VK_F4);
     EXPECT_EQ(Calendar(), nullptr);
+}
+
+TEST_F(DateTimeCtrlTest, AStormOfClicksAndKeysLeavesAValidDateAndNoStrayCalendar) {
+    constexpr int kEvents = 3000;
+    constexpr UINT kKeys[] = {VK_LEFT, VK_RIGHT, VK_UP,   VK_DOWN,   VK_HOME,   VK_END,
+                              VK_F4,   VK_PRIOR, VK_NEXT, VK_RETURN, VK_ESCAPE, VK_SPACE};
+    constexpr char kTyped[] = "0123456789/:ap ";
+    picker.SetFormat("d'.'MMM'.'yy h':'mm':'ss tt");
+    picker.ModifyStyle(0, DTS_SHOWNONE);
+    std::mt19937 random(20240229);
+    CRect client;
+    picker.GetClientRect(&client);
+    for (int i = 0; i < kEvents; ++i) {
+        switch (random() % 4) {
+        case 0: {
+            const CPoint at(int(random() % 300) - 20, int(random() % 60) - 20);
+            if (HWND calendar = Calendar())
+                ui.Click(calendar, at + CPoint(0, 20));
+            else
+                ui.Click(picker.m_hWnd, at);
+            break;
+        }
+        case 1:
+            ui.PressKey(kKeys[random() % std::size(kKeys)]);
+            break;
+        case 2: {
+            const char typed[2] = {kTyped[random() % (std::size(kTyped) - 1)], '\0'};
+            ui.Type(typed);
+            break;
+        }
+        default:
+            ui.PressKey(VK_UP);
+            break;
+        }
+        SYSTEMTIME st{};
+        const DWORD state = picker.GetTime(&st);
+        ASSERT_TRUE(state == GDT_VALID || state == GDT_NONE);
+        DATE date = 0;
+        ASSERT_TRUE(SystemTimeToVariantTime(&st, &date)) << "event " << i;
+        // The calendar is open exactly while it holds the capture.
+        ASSERT_EQ(GetCapture(), Calendar()) << "event " << i;
+    }
+    picker.DestroyWindow();
+    EXPECT_EQ(GetWindow(parent.m_hWnd, GW_HWNDNEXT), nullptr); // no calendar left behind
 }
 
 TEST(DateTimeCtrlTemplate, ADialogTemplateNamesThePickerByItsClass) {
