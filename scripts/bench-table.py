@@ -17,20 +17,8 @@ import tempfile
 
 REPETITIONS = 3
 
-# Each program with the arguments it runs with. The complexity runs are not repeated: their
-# fit is the figure.
-PROGRAMS = [
-    ("bench_grid_paint", True),
-    ("bench_chart_end_to_end", True),
-    ("bench_chart_render", True),
-    ("bench_chart_png", True),
-    ("bench_chart_push", True),
-    ("bench_format_double", True),
-    ("bench_text_reader", True),
-    ("bench_gdi_drawing", True),
-    ("bench_grid_store", True),
-    ("bench_scale", False),
-]
+# Every bench_* program in the folder runs; these are not repeated, as their fit is the figure.
+NOT_REPEATED = {"bench_scale"}
 
 # (figure, benchmark, baseline or None, aim as the highest ratio (or ms when there is no
 # baseline), or None for a figure shown without one)
@@ -71,9 +59,6 @@ UNIT_TO_MS = {"ns": 1e-6, "us": 1e-3, "ms": 1.0, "s": 1e3}
 
 def run(bench_dir, program, repeated, quick):
     path = os.path.join(bench_dir, program)
-    if not os.path.exists(path):
-        print(f"bench-table: {program} is missing", file=sys.stderr)
-        return []
     with tempfile.NamedTemporaryFile(suffix=".json") as out:
         command = [path, "--benchmark_counters_tabular=true",
                    f"--benchmark_out={out.name}", "--benchmark_out_format=json"]
@@ -179,9 +164,11 @@ def main():
     if len(args) != 1:
         print(__doc__, file=sys.stderr)
         return 2
+    programs = sorted(name for name in os.listdir(args[0])
+                      if name.startswith("bench_") and os.access(os.path.join(args[0], name), os.X_OK))
     entries = []
-    for program, repeated in PROGRAMS:
-        entries += run(args[0], program, repeated, quick)
+    for program in programs:
+        entries += run(args[0], program, program not in NOT_REPEATED, quick)
     print("\nMedians of CPU time" + (" (one repetition)" if quick else
                                      f" over {REPETITIONS} repetitions") + ":\n")
     print(table(entries))
