@@ -251,24 +251,6 @@ constexpr int SB_VERT = 1;
 constexpr int SB_CTL = 2;
 constexpr int SB_BOTH = 3;
 
-// Messages of the standard controls that the dialog manager and data exchange send.
-constexpr UINT EM_SETSEL = 0x00B1;
-constexpr UINT BM_GETCHECK = 0x00F0;
-constexpr UINT BM_SETCHECK = 0x00F1;
-constexpr UINT BM_GETSTATE = 0x00F2;
-constexpr UINT BM_SETSTATE = 0x00F3;
-constexpr UINT BM_SETSTYLE = 0x00F4;
-constexpr UINT BM_CLICK = 0x00F5;
-constexpr UINT BST_UNCHECKED = 0x0000;
-constexpr UINT BST_CHECKED = 0x0001;
-constexpr UINT BST_INDETERMINATE = 0x0002;
-constexpr UINT CB_GETCURSEL = 0x0147;
-constexpr UINT CB_GETLBTEXT = 0x0148;
-constexpr UINT CB_GETLBTEXTLEN = 0x0149;
-constexpr UINT CB_SELECTSTRING = 0x014D;
-constexpr UINT CB_SETCURSEL = 0x014E;
-constexpr int CB_ERR = -1;
-
 // Notification codes of the standard controls, sent in the high word of WM_COMMAND.
 constexpr UINT EN_SETFOCUS = 0x0100;
 constexpr UINT EN_KILLFOCUS = 0x0200;

@@ -7,9 +7,6 @@
 
 #include "platform/window/Wnd.h"
 
-// The edge of WM_SIZING that the grip drags.
-constexpr UINT WMSZ_BOTTOMRIGHT = 8;
-
 class ORVA_API CScrollBar : public CWnd {
     DECLARE_DYNAMIC(CScrollBar)
 public:
