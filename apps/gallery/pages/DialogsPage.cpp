@@ -11,6 +11,7 @@
 #include "platform/window/MessageBox.h"
 #include "platform/window/MessageBoxDialog.h"
 
+#include <cstdio>
 #include <string>
 
 namespace {
@@ -93,6 +94,9 @@ protected:
         const std::string titles =
             std::string("X axis: ") + xTitle.GetString() + "\nY axis: " + yTitle.GetString();
         MessageBox(titles.c_str(), "Plot", MB_OK | MB_ICONINFORMATION);
+        // For whoever watches the gallery's output on a display.
+        std::printf("axis titles chosen: %s | %s\n", xTitle.GetString(), yTitle.GetString());
+        std::fflush(stdout);
         EndDialog(IDOK);
     }
 };
@@ -111,6 +115,18 @@ protected:
         DDX_Check(dx, kGridLines, gridLines);
     }
 };
+
+// A control's rectangle relative to its dialog's outer corner, printed as
+// "rect <name> <left> <top> <right> <bottom>" for the scripts that probe its pixels.
+void ReportPlace(GalleryContext& context, CDialog& dialog, int id, const char* name) {
+    CRect frame, control;
+    dialog.GetWindowRect(&frame);
+    if (CWnd* item = dialog.GetDlgItem(id))
+        item->GetWindowRect(&control);
+    control.OffsetRect(-frame.left, -frame.top);
+    context.Print("rect %s %d %d %d %d", name, control.left, control.top, control.right,
+                  control.bottom);
+}
 
 void ReportLayout(GalleryContext& context, CDialog& dialog) {
     const LONG units = GetDialogBaseUnits();
@@ -168,12 +184,16 @@ void BuildDialogsPage(GalleryContext& context) {
     }
     axisTitles.SetWindowPos(nullptr, 40, 40, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     ReportLayout(context, axisTitles);
+    ReportPlace(context, axisTitles, IDOK, "axis-ok");
+    ReportPlace(context, axisTitles, IDCANCEL, "axis-cancel");
     context.Capture(axisTitles.m_hWnd, "31-dialogs-axis-titles");
 
     static OptionsDialog options;
     if (options.Create(kOptionsTemplate)) {
         options.SetWindowPos(nullptr, 360, 40, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
         options.GotoDlgCtrl(options.GetDlgItem(kPoints));
+        ReportPlace(context, options, kBars, "options-bars");
+        ReportPlace(context, options, kLegend, "options-legend");
         context.Capture(options.m_hWnd, "31-dialogs-options");
     }
 
