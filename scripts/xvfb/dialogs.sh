@@ -97,14 +97,15 @@ verdict "$([[ $cancel_frame == "srgb(0,0,0)" && $ok_frame != "srgb(0,0,0)" ]] &&
     "Tab moved the focus and the default frame to Cancel"
 
 key shift+Tab shift+Tab # back to the Y title
+shot 07-back-in-y-title
 key Return
 box=$(xdotool search --sync --onlyvisible --name "^Plot$" | head -1)
 xdotool windowfocus --sync "$box"
 sleep 0.5
-shot 07-message-box
+shot 08-message-box
 key Return
 sleep 1
-shot 08-closed
+shot 09-closed
 ended=1
 kill -0 "$app" 2>/dev/null && ended=0
 verdict "$ended" "Enter in the message box ended it and the dialog, and the gallery with them"
