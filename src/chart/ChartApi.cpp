@@ -5,6 +5,7 @@
 #include "chart/ChartFile.h"
 #include "chart/ChartPropertyIds.h"
 #include "platform/gdi/DC.h"
+#include "platform/gdi/SurfaceDC.h"
 #include "platform/gdi/canvas/Canvas.h"
 #include "platform/host/Clipboard.h"
 #include "platform/host/GlobalMemory.h"

@@ -7,6 +7,7 @@
 #include "platform/window/WindowRecord.h"
 
 #include "platform/gdi/DC.h"
+#include "platform/gdi/SurfaceDC.h"
 #include "platform/host/Host.h"
 
 namespace wm {
