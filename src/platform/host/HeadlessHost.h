@@ -22,6 +22,7 @@ public:
     void ShowWindowSurface(HWND, bool) override {}
     void SetWindowTitle(HWND, const char*) override {}
     void SetWindowSizeLimits(HWND, SIZE, SIZE) override {}
+    void SetWindowIcon(HWND, int, const std::uint32_t*) override {}
     void Present(HWND) override {}
 
     DWORD Now() const override { return m_now; }

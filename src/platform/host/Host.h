@@ -11,6 +11,7 @@
 #include "platform/base/Export.h"
 #include "platform/base/WinTypes.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -31,6 +32,8 @@ public:
     virtual void DestroyWindowSurface(HWND window) = 0;
     virtual void ShowWindowSurface(HWND window, bool show) = 0;
     virtual void SetWindowTitle(HWND window, const char* title) = 0;
+    // The window's icon on a display: `size` * `size` ARGB pixels, row by row.
+    virtual void SetWindowIcon(HWND window, int size, const std::uint32_t* argb) = 0;
     // The smallest and largest sizes a user may give the window on a display.
     virtual void SetWindowSizeLimits(HWND window, SIZE minimum, SIZE maximum) = 0;
     // Painting of the window has finished for now: a display host shows the surface.

@@ -209,6 +209,19 @@ void SdlHost::SetWindowSizeLimits(HWND window, SIZE minimum, SIZE maximum) {
     }
 }
 
+void SdlHost::SetWindowIcon(HWND window, int size, const std::uint32_t* argb) {
+    Window* w = Find(window);
+    if (!w || !w->window || !argb || size <= 0)
+        return;
+    // SDL copies the pixels; the surface only borrows them for the call.
+    SDL_Surface* icon = SDL_CreateRGBSurfaceWithFormatFrom(
+        const_cast<std::uint32_t*>(argb), size, size, 32, size * 4, SDL_PIXELFORMAT_ARGB8888);
+    if (icon) {
+        SDL_SetWindowIcon(w->window, icon);
+        SDL_FreeSurface(icon);
+    }
+}
+
 void SdlHost::Present(HWND window) {
     if (Window* w = Find(window))
         w->pending = true;

@@ -32,6 +32,7 @@ public:
     void ShowWindowSurface(HWND window, bool show) override;
     void SetWindowTitle(HWND window, const char* title) override;
     void SetWindowSizeLimits(HWND window, SIZE minimum, SIZE maximum) override;
+    void SetWindowIcon(HWND window, int size, const std::uint32_t* argb) override;
     // Marks the window for showing; the pixels go to the display before the host next waits,
     // so that a burst of paints costs one upload.
     void Present(HWND window) override;

@@ -3,6 +3,7 @@
 #include "platform/window/MenuTracker.h"
 #include "platform/window/NonClient.h"
 #include "platform/window/ScrollBarTracking.h"
+#include "platform/window/WindowIcons.h"
 #include "platform/window/WindowRecord.h"
 
 #include "platform/gdi/DC.h"
@@ -195,6 +196,19 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
         if (LOWORD(std::uintptr_t(lParam)))
             InvalidateRect(hwnd, nullptr, TRUE);
         return 0;
+    case WM_SETICON: {
+        HICON& slot = wParam == ICON_BIG ? w->bigIcon : w->smallIcon;
+        const HICON previous = slot;
+        slot = reinterpret_cast<HICON>(lParam);
+        if (IsTopLevel(*w) && (wParam == ICON_BIG || !w->bigIcon))
+            if (const IconPixels* pixels = GetIconPixels(slot))
+                GetHost().SetWindowIcon(hwnd, pixels->size, pixels->argb);
+        if ((w->style & WS_CAPTION) == WS_CAPTION)
+            InvalidateFrame(*w);
+        return reinterpret_cast<LRESULT>(previous);
+    }
+    case WM_GETICON:
+        return reinterpret_cast<LRESULT>(wParam == ICON_BIG ? w->bigIcon : w->smallIcon);
     case WM_GETFONT:
         return reinterpret_cast<LRESULT>(w->font);
     case WM_ERASEBKGND: {
