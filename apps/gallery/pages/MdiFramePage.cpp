@@ -173,6 +173,8 @@ void CaptureWithOpenMenus(GalleryContext& context, HWND frame, const char* name)
     ReleaseDC(frame, target);
     context.Print("menus open over the frame: %d", int(menus.size()));
     context.Capture(frame, name);
+    // The menus' pixels go again from the frame, which a display goes on showing.
+    RedrawWindow(frame, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 void BuildMdiFramePage(GalleryContext& context) {
