@@ -415,6 +415,8 @@ protected:
     void OnChar(UINT key, UINT repeat, UINT flags) override;
     UINT OnGetDlgCode() override;
     void OnDestroy() override;
+    // The font of the grid's cells, which in-place editors take.
+    HFONT OnGetFont() override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     // The end of an in-place edit, from the editor's notification.
