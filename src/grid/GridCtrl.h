@@ -203,7 +203,7 @@ public:
     BOOL GetSingleRowSelection() const { return m_singleRowSelection && m_listMode; }
     void SetSingleColSelection(BOOL single = TRUE) { m_singleColSelection = single; }
     BOOL GetSingleColSelection() const { return m_singleColSelection; }
-    void EnableSelection(BOOL enable = TRUE);
+    void EnableSelection(BOOL enable = TRUE) { m_enableSelection = enable; }
     BOOL IsSelectable() const { return m_enableSelection; }
     void SetFixedColumnSelection(BOOL select) { m_fixedColumnSelection = select; }
     BOOL GetFixedColumnSelection() const { return m_fixedColumnSelection; }
