@@ -116,6 +116,15 @@ void PlayTheUser(CGridCtrl& grid, CScheduleFrame& frame, GalleryContext& context
                   grid.GetSortColumn(), grid.GetSortAscending(), frame.changed);
 }
 
+// Where a point of the grid lies from the top-left corner of its top-level window, for a
+// script that works the window with real input.
+void PrintPlace(GalleryContext& context, CGridCtrl& grid, const char* name, CPoint point) {
+    CRect frame;
+    grid.GetTopLevelParent()->GetWindowRect(&frame);
+    grid.ClientToScreen(&point);
+    context.Print("at %s %d %d", name, int(point.x - frame.left), int(point.y - frame.top));
+}
+
 void BuildGridEditingPage(GalleryContext& context) {
     // Windows of the gallery live as long as the program.
     static GridEditingPage page;
@@ -133,6 +142,12 @@ void BuildGridEditingPage(GalleryContext& context) {
     grid.Refresh();
 
     PlayTheUser(grid, page.frame, context);
+
+    CRect divider;
+    grid.GetCellRect(0, 1, &divider);
+    PrintPlace(context, grid, "edit-cell", Centre(grid, 6, 3));
+    PrintPlace(context, grid, "divider", CPoint(divider.right + 1, divider.CenterPoint().y));
+    PrintPlace(context, grid, "length-heading", Centre(grid, 0, 1));
     context.Capture(page.frame.GetSafeHwnd(), "41-grid-editing");
 }
 
