@@ -48,7 +48,7 @@ DialogTemplate ControlsTemplate() {
     add("Edit", "0.0015", kDisabledEdit, visible | WS_BORDER | WS_DISABLED | ES_RIGHT,
         {56, 52, 156, 66});
     add("Edit", "Multi-line notes:\r\nsecond line\r\nthird line", kNotes,
-        visible | WS_BORDER | ES_MULTILINE | ES_WANTRETURN, {12, 72, 156, 112});
+        visible | WS_BORDER | WS_VSCROLL | ES_MULTILINE | ES_WANTRETURN, {12, 72, 156, 112});
 
     add("Button", "Options", 0xFFFF, BS_GROUPBOX, {168, 4, 324, 118});
     add("Button", "Checked box", kChecked, visible | BS_AUTOCHECKBOX, {176, 16, 318, 28});
@@ -95,6 +95,28 @@ void Fill(CDialog& dialog) {
     name->SendMessage(EM_SETSEL, 5, 12);
 }
 
+// Where a script driving the dialog on a display clicks: points relative to the dialog's
+// top-left corner, printed as "at <name> <x> <y>".
+void PrintPlaces(GalleryContext& context, CDialog& dialog) {
+    CRect frame;
+    dialog.GetWindowRect(&frame);
+    const auto print = [&](const char* name, CPoint screen) {
+        context.Print("at %s %d %d", name, int(screen.x - frame.left), int(screen.y - frame.top));
+    };
+    const auto rectOf = [&](UINT id) {
+        CRect r;
+        dialog.GetDlgItem(int(id))->GetWindowRect(&r);
+        return r;
+    };
+    print("name-edit", rectOf(kName).CenterPoint());
+    const CRect box = rectOf(kUnchecked);
+    print("unchecked-box", CPoint(box.left + 6, box.CenterPoint().y));
+    const CRect method = rectOf(kMethod);
+    print("method-arrow", CPoint(method.right - 8, method.CenterPoint().y));
+    const int row = int(dialog.GetDlgItem(kMethod)->SendMessage(CB_GETITEMHEIGHT, 0));
+    print("method-list-row-1", CPoint(method.left + 20, method.bottom + 1 + row + row / 2));
+}
+
 // Dialogs stand on the button face colour, as the controls do.
 class ControlsDialog : public CDialog {
 public:
@@ -137,6 +159,10 @@ void BuildStandardControlsPage(GalleryContext& context) {
     method->GetLBText(method->GetCurSel(), chosen);
     context.Print("method list open: %s, %d items, \"%s\" selected",
                   method->GetDroppedState() ? "yes" : "no", method->GetCount(), chosen.GetString());
+    // The pictures are taken: on a display only the first dialog stays, for the user (or a
+    // script) to work.
+    dropped.DestroyWindow();
+    PrintPlaces(context, controls);
 }
 
 } // namespace

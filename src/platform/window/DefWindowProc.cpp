@@ -1,6 +1,7 @@
 // The default procedure: what a window does with a message that its own procedure passes on.
 
 #include "platform/window/MenuTracker.h"
+#include "platform/window/NonClient.h"
 #include "platform/window/ScrollBarTracking.h"
 #include "platform/window/WindowRecord.h"
 
@@ -11,10 +12,6 @@
 #include <algorithm>
 #include <cctype>
 #include <cstring>
-
-namespace wm {
-void DrawFrame(const WindowRecord& w, HDC windowDC); // NonClientPainter.cpp
-}
 
 namespace {
 using namespace wm;
@@ -33,6 +30,13 @@ LRESULT HitTest(const WindowRecord& w, CPoint screen) {
     const FrameMetrics m = GetFrameMetrics(w);
     if (MenuBarInWindow(w).PtInRect(p))
         return HTMENU;
+    const CaptionButtons buttons = GetCaptionButtons(w);
+    if (buttons.close.PtInRect(p))
+        return HTCLOSE;
+    if (buttons.maximize.PtInRect(p))
+        return HTMAXBUTTON;
+    if (buttons.minimize.PtInRect(p))
+        return HTMINBUTTON;
     if (m.caption && p.y >= m.border && p.y < m.border + m.caption && p.x >= m.border &&
         p.x < w.rect.Width() - m.border)
         return HTCAPTION;
@@ -98,7 +102,7 @@ LRESULT SystemCommand(HWND hwnd, WPARAM wParam, LPARAM lParam) {
         return 0;
     }
     case SC_CLOSE:
-        PostMessage(hwnd, WM_CLOSE);
+        SendMessage(hwnd, WM_CLOSE);
         return 0;
     default:
         return 0;
@@ -165,6 +169,14 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
         return HitTest(*w, CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
     case WM_NCLBUTTONDOWN:
     case WM_NCLBUTTONDBLCLK:
+        if (wParam == HTCLOSE || wParam == HTMAXBUTTON || wParam == HTMINBUTTON) {
+            const UINT command = wParam == HTCLOSE          ? SC_CLOSE
+                                 : wParam == HTMINBUTTON    ? SC_MINIMIZE
+                                 : (w->style & WS_MAXIMIZE) ? SC_RESTORE
+                                                            : SC_MAXIMIZE;
+            SendMessage(hwnd, WM_SYSCOMMAND, command, lParam);
+            return 0;
+        }
         if (wParam == HTMENU) {
             TrackMenuBar(hwnd,
                          MenuBarItemAt(hwnd, CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam))),
@@ -217,7 +229,7 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
             RECT client;
             GetClientRect(hwnd, &client);
             w->announcedClient = CSize(client.right, client.bottom);
-            SendMessage(hwnd, WM_SIZE, SIZE_RESTORED,
+            SendMessage(hwnd, WM_SIZE, (w->style & WS_MAXIMIZE) ? SIZE_MAXIMIZED : SIZE_RESTORED,
                         MAKELPARAM(WORD(client.right), WORD(client.bottom)));
         }
         return 0;

@@ -76,6 +76,15 @@ void RouteMouse(UINT message, CPoint screen, int clickCount) {
     const int hit = int(SendMessage(target, WM_NCHITTEST, 0, PackPoint(screen)));
     if (!Find(target))
         return;
+    if (press) {
+        // The window (or, through the default procedure, an ancestor) may take the press as
+        // its activation only.
+        const LRESULT answer =
+            SendMessage(target, WM_MOUSEACTIVATE, WPARAM(GetAncestor(target, GA_ROOT)),
+                        MAKELPARAM(WORD(hit), WORD(message)));
+        if (!Find(target) || answer == MA_ACTIVATEANDEAT || answer == MA_NOACTIVATEANDEAT)
+            return;
+    }
     SendMessage(target, WM_SETCURSOR, WPARAM(target), MAKELPARAM(WORD(hit), WORD(message)));
     if (!(w = Find(target)))
         return;
