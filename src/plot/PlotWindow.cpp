@@ -3,6 +3,11 @@
 #include "plot/PlotWindow.h"
 
 #include "platform/base/Messages.h"
+#include "platform/window/WindowIcons.h"
+
+namespace {
+constexpr UINT kPlotIcon = 128; // the application's icon resource for plot windows
+} // namespace
 #include "plot/PlotApi.h"
 #include "plot/PlotHosts.h"
 
@@ -16,6 +21,10 @@ HWND PlotDocumentArea() {
 BOOL CPlotWindow::CreateDocument(const char* title, DWORD style) {
     if (!Create(nullptr, title ? title : "", style))
         return FALSE;
+    if (HICON icon = LoadIcon(nullptr, MAKEINTRESOURCE(kPlotIcon))) {
+        SendMessage(WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon));
+        SendMessage(WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
+    }
     // The document style asks for a maximised window, but a plot window opens restored at its
     // place, as the plot's constructor intends when it restores the active document first.
     BOOL maximised = FALSE;

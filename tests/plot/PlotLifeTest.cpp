@@ -4,6 +4,7 @@
 
 #include "chart/ChartApi.h"
 #include "chart/ChartPropertyIds.h"
+#include "platform/window/WindowIcons.h"
 #include "plot/PlotCanvas.h"
 #include "plot/PlotWindowTop.h"
 
@@ -252,6 +253,18 @@ TEST_F(PlotDocumentTest, DocumentPlotsLiveInTheFramesDocumentArea) {
     EXPECT_EQ(g_plotList.PlotFromHwnd(first->GetHwnd()), first);
     EXPECT_EQ(g_plotList.NumPlots(), 1);
     EXPECT_EQ(ClosedMessages().size(), 1u);
+}
+
+TEST_F(PlotDocumentTest, DocumentWindowsWearThePlotIcon) {
+    constexpr UINT kPlotIcon = 128;
+    constexpr int kIconSize = 16;
+    ASSERT_TRUE(RegisterIconResource(
+        kPlotIcon, kIconSize, std::vector<std::uint32_t>(kIconSize * kIconSize, 0xFF2060A0)));
+    auto* plot = new RecordingPlot(kLineChart, "Iconic", nullptr, kDocument, 0);
+    HWND host = GetParent(plot->GetHwnd());
+    const auto icon = LRESULT(LoadIcon(nullptr, MAKEINTRESOURCE(kPlotIcon)));
+    EXPECT_EQ(SendMessage(host, WM_GETICON, ICON_BIG, 0), icon);
+    EXPECT_EQ(SendMessage(host, WM_GETICON, ICON_SMALL, 0), icon);
 }
 
 TEST_F(PlotDocumentTest, NoDocumentPlotWithoutADocumentFrame) {
