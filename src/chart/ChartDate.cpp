@@ -1,44 +1,15 @@
 #include "chart/ChartDate.h"
 
+#include "platform/system/DateTime.h"
+
 #include <cmath>
 
-namespace {
-
-// Days since 1970-01-01 of a proleptic Gregorian date, and back (the era-based civil calendar
-// algorithm, exact for every year an int holds).
-long long DaysFromCivil(long long y, unsigned m, unsigned d) {
-    y -= m <= 2;
-    const long long era = (y >= 0 ? y : y - 399) / 400;
-    const unsigned yoe = unsigned(y - era * 400);
-    const unsigned doy = (153 * (m + (m > 2 ? -3 : 9)) + 2) / 5 + d - 1;
-    const unsigned doe = yoe * 365 + yoe / 4 - yoe / 100 + doy;
-    return era * 146097 + (long long)doe - 719468;
-}
-
-void CivilFromDays(long long z, int& year, int& month, int& day) {
-    z += 719468;
-    const long long era = (z >= 0 ? z : z - 146096) / 146097;
-    const unsigned doe = unsigned(z - era * 146097);
-    const unsigned yoe = (doe - doe / 1460 + doe / 36524 - doe / 146096) / 365;
-    const unsigned doy = doe - (365 * yoe + yoe / 4 - yoe / 100);
-    const unsigned mp = (5 * doy + 2) / 153;
-    day = int(doy - (153 * mp + 2) / 5 + 1);
-    month = int(mp < 10 ? mp + 3 : mp - 9);
-    year = int(yoe + era * 400 + (month <= 2));
-}
-
-const long long kSerialEpoch = DaysFromCivil(1899, 12, 30);
-
-int DaysInMonth(int year, int month) {
-    static const int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    const bool leap = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-    return month == 2 && leap ? 29 : days[month - 1];
-}
-
-} // namespace
+// The calendar is the platform's. Serials before 1899-12-30 run straight on through it (the
+// fraction is added to a negative day, not taken from it as automation dates do), so that an
+// axis measures time by plain subtraction.
 
 long long ChartDayNumber(int year, int month, int day) {
-    return DaysFromCivil(year, unsigned(month), unsigned(day)) - kSerialEpoch;
+    return DayNumberFromDate(year, month, day);
 }
 
 bool EncodeChartDate(const ChartDateFields& f, double* serial) {
@@ -63,7 +34,7 @@ ChartDateFields DecodeChartDate(double serial) {
         seconds += 86400;
         --days;
     }
-    CivilFromDays(days + kSerialEpoch, fields.year, fields.month, fields.day);
+    DateFromDayNumber(days, fields.year, fields.month, fields.day);
     fields.hour = int(seconds / 3600);
     fields.minute = int(seconds / 60 % 60);
     fields.second = int(seconds % 60);

@@ -19,8 +19,7 @@ constexpr double kLegendSample = 26;
 constexpr int kPalette[] = {0x00B4771F, 0x000E7FFF, 0x002CA02C, 0x002827D6, 0x00BD6794,
                             0x004B568C, 0x00C277E3, 0x007F7F7F, 0x0022BDBC, 0x00CFBE17};
 
-// The lowest and highest value seen. It runs over every point of every paint, so it keeps no
-// flag of its own: an extent is empty while low lies above high.
+// The lowest and highest value seen: empty while low lies above high.
 struct Extent {
     double low = HUGE_VAL, high = -HUGE_VAL;
     bool Any() const { return low <= high; }
@@ -151,15 +150,9 @@ ChartFrame LayoutChart(const Canvas& measure, const ChartProperties& p, int widt
     const CanvasFont legendFont = ChartFont(p, 9);
 
     // Ranges.
-    Extent xData, yData;
-    const size_t count = size_t(series.curves) * size_t(series.points);
-    for (size_t i = 0; i < count; ++i) {
-        if (IsMissing(series.y[i]))
-            continue;
-        yData.Add(series.y[i]);
-        if (series.x)
-            xData.Add(series.x[i]);
-    }
+    const DataExtents& data =
+        p.Extents(size_t(series.curves) * size_t(series.points), series.x != nullptr);
+    Extent xData{data.xLow, data.xHigh}, yData{data.yLow, data.yHigh};
     if (xData.Any()) {
         xData.low += series.xOffset;
         xData.high += series.xOffset;

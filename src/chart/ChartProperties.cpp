@@ -3,6 +3,8 @@
 #include "chart/ChartPropertyIds.h"
 
 #include <algorithm>
+#include <cfloat>
+#include <cmath>
 #include <cstring>
 
 namespace {
@@ -344,6 +346,34 @@ const std::vector<std::string>& ChartProperties::Strings(int number) const {
 
 void ChartProperties::SetRecord(int number, const std::vector<std::int32_t>& values) {
     Slot(number).ints = values;
+}
+
+const DataExtents& ChartProperties::Extents(size_t count, bool withX) const {
+    if (m_extents && m_extents->count == count && m_extents->withX == withX)
+        return m_extents->extents;
+    const auto& xs = Doubles(chartprop::XData);
+    const auto& ys = Doubles(chartprop::YData);
+    const size_t available = std::min(ys.size(), withX ? xs.size() : ys.size());
+    DataExtents e{HUGE_VAL, -HUGE_VAL, HUGE_VAL, -HUGE_VAL};
+    // Missing and infinite values fail the one test; NaN fails every comparison.
+    const auto usable = [](double v) {
+        return v != chartprop::MissingValue && std::fabs(v) <= DBL_MAX;
+    };
+    for (size_t i = 0; i < std::min(count, available); ++i) {
+        const double y = ys[i];
+        if (y == chartprop::MissingValue)
+            continue;
+        if (usable(y)) {
+            e.yLow = std::min(e.yLow, y);
+            e.yHigh = std::max(e.yHigh, y);
+        }
+        if (withX && usable(xs[i])) {
+            e.xLow = std::min(e.xLow, xs[i]);
+            e.xHigh = std::max(e.xHigh, xs[i]);
+        }
+    }
+    m_extents = KeptExtents{count, withX, e};
+    return m_extents->extents;
 }
 
 void ChartProperties::SetDoubles(int number, std::vector<double> values) {

@@ -4,10 +4,12 @@
 // the engine's table; numbers it does not know are integers. The store answers the byte-level
 // operations of the chart interface and gives the engine typed access.
 
+#include "chart/ChartPropertyIds.h"
 #include "platform/base/Export.h"
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,6 +32,12 @@ struct PropertyValue {
     std::vector<double> doubles;
     std::vector<std::int32_t> ints; // Ints, Colours and Record
     std::vector<std::string> strings;
+};
+
+// The lowest and highest X and Y of the data; an extent is empty while its low lies above its
+// high.
+struct DataExtents {
+    double xLow, xHigh, yLow, yHigh;
 };
 
 class ORVA_API ChartProperties {
@@ -69,6 +77,11 @@ public:
         m_values.erase(number);
     }
 
+    // The extents of the first `count` points of the data, leaving out missing and infinite
+    // values, and each X whose Y is missing; X only `withX`. Kept until the data change, so
+    // that a repaint does not go over a million points again.
+    const DataExtents& Extents(size_t count, bool withX) const;
+
     const std::map<int, PropertyValue>& All() const { return m_values; }
     void Replace(std::map<int, PropertyValue> values) {
         ClearCache();
@@ -77,6 +90,8 @@ public:
 
 private:
     PropertyValue& Slot(int number) {
+        if (number == chartprop::XData || number == chartprop::YData)
+            m_extents.reset();
         CacheEntry& entry = m_cache[unsigned(number) % 8];
         return entry.value && entry.number == number ? *entry.value : SlotSlow(number);
     }
@@ -91,6 +106,13 @@ private:
     void ClearCache() {
         for (CacheEntry& entry : m_cache)
             entry = {};
+        m_extents.reset();
     }
     CacheEntry m_cache[8];
+    struct KeptExtents {
+        size_t count;
+        bool withX;
+        DataExtents extents;
+    };
+    mutable std::optional<KeptExtents> m_extents;
 };

@@ -85,6 +85,9 @@ void DrawCurveLine(Canvas& canvas, const ChartFrame& f, const ChartSeries& serie
     const double yScale = f.plot.Height() / (f.yMax - f.yMin);
     const double xShift = f.plot.left + (series.xOffset - f.xMin) * xScale;
     const double yShift = f.plot.bottom + f.yMin * yScale;
+    const auto toPixelY = [&](double y) { return std::clamp(yShift - y * yScale, -1e5, 1e5); };
+    const bool finiteScales = std::isfinite(xScale) && std::isfinite(yScale) && yScale != 0 &&
+                              std::isfinite(xShift) && std::isfinite(yShift);
     std::vector<double> path, bars, joins;
     const auto flush = [&] {
         if (path.size() >= 4)
@@ -114,7 +117,7 @@ void DrawCurveLine(Canvas& canvas, const ChartFrame& f, const ChartSeries& serie
             const double y = ys[p];
             const double x = xs ? xs[p] : double(p);
             const double px = std::clamp(xShift + x * xScale, -1e5, 1e5);
-            const double py = std::clamp(yShift - y * yScale, -1e5, 1e5);
+            const double py = toPixelY(y);
             if (IsMissing(y) || IsMissing(x) || px != px || py != py) {
                 closeColumn();
                 joined = false;
@@ -130,24 +133,51 @@ void DrawCurveLine(Canvas& canvas, const ChartFrame& f, const ChartSeries& serie
                 return false;
             previousData = x;
             const long c = long(px);
-            if (open && c == column) {
+            if (!open || c != column) {
+                const long previousColumn = column;
+                closeColumn();
+                column = c;
+                columnX = px;
+                lowY = highY = lastY = py;
+                if (joined && c - previousColumn <= 1) {
+                    lowY = std::min(lowY, previousY);
+                    highY = std::max(highY, previousY);
+                } else if (joined) {
+                    joins.insert(joins.end(), {previousX, previousY, px, py});
+                }
+                open = true;
+            } else {
                 lastY = py;
                 lowY = std::min(lowY, py);
                 highY = std::max(highY, py);
+            }
+            // The points after this one in the same column need only their lowest, highest
+            // and last Y: in data units, turned into pixels once. Anything else (a missing
+            // value, X going back, the next column) is left to the step above.
+            if (!finiteScales)
                 continue;
+            double yLow = y, yHigh = y;
+            int q = p + 1;
+            for (; q < series.points; ++q) {
+                const double nextY = ys[q];
+                const double nextX = xs ? xs[q] : double(q);
+                if (IsMissing(nextY) || IsMissing(nextX) || nextY != nextY ||
+                    !(nextX >= previousData))
+                    break;
+                const double nextPx = std::clamp(xShift + nextX * xScale, -1e5, 1e5);
+                if (nextPx != nextPx || long(nextPx) != column)
+                    break;
+                previousData = nextX;
+                yLow = std::min(yLow, nextY);
+                yHigh = std::max(yHigh, nextY);
             }
-            const long previousColumn = column;
-            closeColumn();
-            column = c;
-            columnX = px;
-            lowY = highY = lastY = py;
-            if (joined && c - previousColumn <= 1) {
-                lowY = std::min(lowY, previousY);
-                highY = std::max(highY, previousY);
-            } else if (joined) {
-                joins.insert(joins.end(), {previousX, previousY, px, py});
-            }
-            open = true;
+            if (q == p + 1)
+                continue;
+            lastY = toPixelY(ys[q - 1]);
+            const double a = toPixelY(yLow), b = toPixelY(yHigh);
+            lowY = std::min({lowY, a, b});
+            highY = std::max({highY, a, b});
+            p = q - 1;
         }
         closeColumn();
         flush();

@@ -2,6 +2,7 @@
 
 #include "grid/GridCtrl.h"
 
+#include "grid/GridDropTarget.h"
 #include "platform/base/Exceptions.h"
 #include "platform/gdi/Font.h"
 #include "platform/system/SysColors.h"
@@ -54,7 +55,6 @@ CGridCtrl::CGridCtrl(int rows, int cols, int fixedRows, int fixedCols)
 
 CGridCtrl::~CGridCtrl() {
     DeleteAllItems();
-    delete m_fillOutline;
     if (GetSafeHwnd() != nullptr) {
         DestroyWindow();
     }
@@ -85,6 +85,7 @@ BOOL CGridCtrl::Create(const RECT& rect, CWnd* parent, UINT id, DWORD style) {
 void CGridCtrl::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
     Initialise();
+    RegisterDropTarget();
 }
 
 void CGridCtrl::Initialise() {

@@ -13,15 +13,16 @@
 #include "grid/GridDefaultCell.h"
 #include "grid/GridItem.h"
 #include "grid/GridNotify.h"
+#include "platform/host/OleDataObject.h"
 #include "platform/window/Wnd.h"
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <vector>
 
+class CGridDropTarget;
 class CImageList;
-class COleDataSource;
-class COleDataObject;
 class CPrintInfo;
 
 #define GRIDCTRL_CLASSNAME "ORVAGridCtrl"
@@ -74,6 +75,17 @@ enum {
 using GRIDCALLBACK = BOOL (*)(GV_DISPINFO* dispInfo, LPARAM data);
 // A sort comparison of two cells, handed their addresses and the caller's value.
 using PFNLVCOMPARE = int (*)(LPARAM cell1, LPARAM cell2, LPARAM data);
+
+// The control id of every in-place editor; the grid hears the end of an edit from this id.
+constexpr UINT IDC_INPLACE_CONTROL = 8;
+// The event id of the auto-scroll timer that runs while the mouse drags a selection.
+constexpr UINT_PTR GRID_AUTOSCROLL_TIMER = 0x201;
+
+// The standard edit command ids that the grid answers.
+constexpr UINT ID_EDIT_COPY = 57634;
+constexpr UINT ID_EDIT_CUT = 57635;
+constexpr UINT ID_EDIT_PASTE = 57637;
+constexpr UINT ID_EDIT_SELECT_ALL = 57642;
 
 class ORVA_API CGridCtrl : public CWnd {
     DECLARE_DYNCREATE(CGridCtrl)
@@ -229,6 +241,7 @@ public:
     void EnableRowHide(BOOL enable = TRUE) { m_allowRowHide = enable; }
     BOOL GetRowHide() const { return m_allowRowHide; }
     void EnableCustomTabs(BOOL enable = TRUE) { m_customTabs = enable; }
+    BOOL GetCustomTabs() const { return m_customTabs; }
     void EnableWysiwygPrinting(BOOL enable = TRUE) { m_wysiwygPrinting = enable; }
     BOOL GetWysiwygPrinting() const { return m_wysiwygPrinting; }
     void SetShadedPrintOut(BOOL enable = TRUE) { m_shadedPrintOut = enable; }
@@ -240,6 +253,17 @@ public:
     void SetRedraw(BOOL allowDraw, BOOL resetScrollBars = FALSE);
     int GetMouseMode() const { return m_mouseMode; }
     int SetMouseMode(int mode);
+
+    // Sorting. A sort keeps fixed rows in place and moves whole rows, cell pointers and heights.
+    BOOL SortItems(int col, BOOL ascending, LPARAM data = 0);
+    BOOL SortTextItems(int col, BOOL ascending, LPARAM data = 0);
+    BOOL SortItems(PFNLVCOMPARE compare, int col, BOOL ascending, LPARAM data = 0);
+    static int pfnCellTextCompare(LPARAM cell1, LPARAM cell2, LPARAM data);
+    static int pfnCellNumericCompare(LPARAM cell1, LPARAM cell2, LPARAM data);
+    // Fills the client area with an empty grid of default cells; not the fill handle.
+    void AutoFill();
+    // The next value of a fill series from the two values before it (`near` the closer one).
+    static CString NextInSeries(const CString& nearText, const CString& farText);
 
     // Virtual mode.
     void SetVirtualMode(BOOL virtualMode);
@@ -339,6 +363,19 @@ public:
     virtual void OnEndPrinting(CDC* dc, CPrintInfo* info);
     virtual void ValidateAndModifyCellContents(int row, int col, LPCTSTR text);
 
+    // Drag and drop, called by the drop target and the mouse code.
+    DROPEFFECT OnDragEnter(COleDataObject* dataObject, DWORD keyState, CPoint point);
+    DROPEFFECT OnDragOver(COleDataObject* dataObject, DWORD keyState, CPoint point);
+    void OnDragLeave();
+    BOOL OnDrop(COleDataObject* dataObject, DROPEFFECT dropEffect, CPoint point);
+    void OnBeginDrag();
+
+    // Editing: the whole road of a change of text, and its end from outside.
+    virtual void OnEditCell(int row, int col, CPoint point, UINT ch);
+    virtual void OnEndEditCell(int row, int col, CString text);
+    virtual BOOL ValidateEdit(int row, int col, LPCTSTR text);
+    virtual void EndEditing();
+
 protected:
     virtual void PrintFixedRowCells(int startColumn, int stopColumn, int& row, CRect& rect, CDC* dc,
                                     BOOL& firstPage);
@@ -349,13 +386,9 @@ protected:
     virtual CImageList* CreateDragImage(CPoint* hotSpot);
     virtual void OnFixedColumnClick(CCellID& cell);
     virtual void OnFixedRowClick(CCellID& cell);
-    virtual void OnEditCell(int row, int col, CPoint point, UINT ch);
-    virtual void OnEndEditCell(int row, int col, CString text);
-    virtual BOOL ValidateEdit(int row, int col, LPCTSTR text);
     // The last step of a change of text: the cell validates it and the application may refuse
     // it; a refused text is put back to oldText.
     void AcceptOrRollBackEdit(int row, int col, LPCTSTR text, const CString& oldText);
-    virtual void EndEditing();
     virtual void OnDraw(CDC* dc);
     virtual CGridCellBase* CreateCell(int row, int col);
     virtual void DestroyCell(int row, int col);
@@ -369,6 +402,41 @@ protected:
     void OnHScroll(UINT code, UINT position, CScrollBar* scrollBar) override;
     void OnVScroll(UINT code, UINT position, CScrollBar* scrollBar) override;
     BOOL OnMouseWheel(UINT flags, short delta, CPoint point) override;
+    void OnLButtonDown(UINT flags, CPoint point) override;
+    void OnLButtonUp(UINT flags, CPoint point) override;
+    void OnLButtonDblClk(UINT flags, CPoint point) override;
+    void OnMouseMove(UINT flags, CPoint point) override;
+    void OnRButtonDown(UINT flags, CPoint point) override;
+    void OnRButtonUp(UINT flags, CPoint point) override;
+    void OnTimer(UINT_PTR id) override;
+    BOOL OnSetCursor(CWnd* wnd, UINT hitTest, UINT message) override;
+    void OnCaptureChanged(CWnd* wnd) override;
+    void OnKeyDown(UINT key, UINT repeat, UINT flags) override;
+    void OnChar(UINT key, UINT repeat, UINT flags) override;
+    UINT OnGetDlgCode() override;
+    void OnDestroy() override;
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    // The end of an in-place edit, from the editor's notification.
+    void OnEndInPlaceEdit(NMHDR* notify, LRESULT* result);
+
+    // Mouse helpers.
+    BOOL MouseOverRowResizeArea(CPoint& point);
+    BOOL MouseOverColumnResizeArea(CPoint& point);
+    CPoint GetPointClicked(int row, int col, const CPoint& point);
+    void StartDividerDrag(bool columns, CPoint point);
+    void EndDividerDrag(bool columns, CPoint point);
+    void InvertTrackingBand(bool columns, CPoint point);
+    CCellRange FillOutline(CPoint point);
+    CRect OutlineRect(const CCellRange& range);
+    // Shows `range` as the fill outline in place of the one shown, or only erases with null.
+    void DrawRect(std::unique_ptr<CCellRange> range);
+    BOOL IsInAutoFillCornor(CPoint point, CCellID cell);
+    // Drag and drop glue.
+    void RegisterDropTarget();
+    void SetDropHighlight(const CCellID& cell, bool on);
+    // Whether the edit command with this id can run now.
+    BOOL IsEditCommandEnabled(UINT id);
 
     // Window glue. Every window the grid is bound to, created or subclassed, is initialised.
     void PreSubclassWindow() override;
@@ -394,6 +462,27 @@ protected:
     void SelectRows(CCellID cell, BOOL forceRedraw = FALSE, BOOL select = TRUE);
     void SelectCells(CCellID cell, BOOL forceRedraw = FALSE, BOOL select = TRUE);
     void OnSelecting(const CCellID& cell);
+
+    // Keyboard: one key press, from the focus cell to the cell it leads to.
+    struct KeyMove;
+    bool StandardKey(UINT key, bool shift, bool control, KeyMove& move);
+    bool CustomTabsKey(UINT key, bool shift, KeyMove& move);
+    void FinishKeyMove(UINT key, bool shift, KeyMove& move);
+    int PageStep(UINT code, KeyMove& move);
+    void PageDown(KeyMove& move);
+    void PageUp(KeyMove& move);
+    // The next or previous row of non-zero height, not into the fixed rows; -1 for none.
+    int NextVisibleRow(int from) const;
+    int PreviousVisibleRow(int from) const;
+    void ClearSelectedEditableCells();
+
+    // Sorting: the quicksort on rows `low` to `high` (-1: the last row).
+    BOOL SortItems(PFNLVCOMPARE compare, int col, BOOL ascending, LPARAM data, int low, int high);
+    void SwapRows(int row1, int row2);
+    // The fill handle: the fill of a drag ending over `target`, and the copy down a column.
+    void FillByDrag(const CCellID& target);
+    void FillDown(const CCellID& source);
+    void FillCell(int row, int col, const CString& text);
 
     using GridRow = std::vector<CGridCellBase*>;
     using CellMap = std::map<DWORD, CCellID>;
@@ -495,7 +584,8 @@ protected:
     CellMap m_selectedCellMap;
     CellMap m_prevSelectedCellMap;
     CCellID m_lastDragOverCell;
-    CCellRange* m_fillOutline = nullptr;
+    std::unique_ptr<CCellRange> m_fillOutline;
+    std::unique_ptr<CGridDropTarget> m_dropTarget;
 
     // Sorting.
     BOOL m_ascending = TRUE;

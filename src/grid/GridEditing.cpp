@@ -28,15 +28,49 @@ void CGridCtrl::AcceptOrRollBackEdit(int row, int col, LPCTSTR text, const CStri
 }
 
 void CGridCtrl::OnEditCell(int row, int col, CPoint point, UINT ch) {
-    // Editing in place needs the cell's editor window; a cell without one refuses in Edit.
-    CGridCellBase* cell = GetCell(row, col);
-    if (cell == nullptr || !IsCellEditable(row, col) || GetSafeHwnd() == nullptr) {
+    if (!IsValid(row, col) || !IsCellEditable(row, col)) {
         return;
     }
-    if (SendMessageToParent(row, col, GV_NOTIFY_BEGINLABELEDIT) < 0) {
+    EnsureVisible(row, col);
+    CRect rect;
+    if (!IsCellVisible(row, col) || !GetCellRect(row, col, &rect)) {
         return;
     }
-    cell->Edit(row, col, CRect(), point, 0, ch);
+    const HWND self = m_hWnd;
+    if (SendMessageToParent(row, col, GV_NOTIFY_BEGINLABELEDIT) < 0 || !::IsWindow(self)) {
+        return;
+    }
+    if (CGridCellBase* cell = GetCell(row, col)) {
+        cell->Edit(row, col, rect, point, IDC_INPLACE_CONTROL, ch);
+    }
+}
+
+BOOL CGridCtrl::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
+    auto* header = reinterpret_cast<NMHDR*>(lParam);
+    if (header != nullptr && header->idFrom == IDC_INPLACE_CONTROL &&
+        header->code == UINT(GV_NOTIFY_ENDLABELEDIT)) {
+        OnEndInPlaceEdit(header, result);
+        return TRUE;
+    }
+    return CWnd::OnNotify(wParam, lParam, result);
+}
+
+void CGridCtrl::OnEndInPlaceEdit(NMHDR* notify, LRESULT* result) {
+    *result = 0;
+    if (GetSafeHwnd() == nullptr || !::IsWindow(m_hWnd)) {
+        return;
+    }
+    const auto* info = reinterpret_cast<const GV_DISPINFO*>(notify);
+    const HWND self = m_hWnd;
+    OnEndEditCell(info->item.row, info->item.col, info->item.text);
+    // Tab and the navigation keys carry the edit on to the next cell; Return stays.
+    const UINT key = UINT(info->item.param);
+    if (::IsWindow(self) && (key == VK_TAB || (key >= VK_PRIOR && key <= VK_DOWN))) {
+        OnKeyDown(key, 0, 0);
+        if (::IsWindow(self)) {
+            OnEditCell(m_focusCell.row, m_focusCell.col, CPoint(-1, -1), key);
+        }
+    }
 }
 
 void CGridCtrl::OnEndEditCell(int row, int col, CString text) {

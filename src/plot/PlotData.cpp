@@ -2,18 +2,45 @@
 
 #include "chart/ChartApi.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
 
 constexpr double kMissing = -9999.0;
 constexpr double kNoDateTime = -9999999.0;
+constexpr int kPointLabels = 2130;
 
 // The chart copies the text out of our buffer, so one buffer serves a whole push.
 void SetTextElement(HWND chart, int property, int index, const zvk::CStdStr<char>& text,
                     std::vector<char>& buffer) {
     buffer.assign(text.c_str(), text.c_str() + text.size() + 1);
     ChartSetElement(chart, property, index, buffer.data());
+}
+
+using LabelRows = std::vector<std::vector<zvk::CStdStr<char>>>;
+
+// The labels of the first `curves` curves at their flat indices. When every one is empty and the
+// chart holds none, the last alone makes the chart's list just as long, and as empty.
+void PushLabels(HWND chart, const LabelRows& labels, int curves, int points,
+                std::vector<char>& buffer) {
+    const zvk::CStdStr<char> noText;
+    const auto labelOf = [&](int s, int p) -> const zvk::CStdStr<char>& {
+        return size_t(p) < labels[size_t(s)].size() ? labels[size_t(s)][size_t(p)] : noText;
+    };
+    if (curves <= 0 || points <= 0)
+        return;
+    bool allEmpty = ChartGetArray(chart, kPointLabels, nullptr) == 0;
+    for (int s = 0; s < curves && allEmpty; ++s)
+        for (int p = 0; p < points && allEmpty; ++p)
+            allEmpty = labelOf(s, p).empty();
+    if (allEmpty) {
+        SetTextElement(chart, kPointLabels, (curves - 1) * points + points - 1, noText, buffer);
+        return;
+    }
+    for (int s = 0; s < curves; ++s)
+        for (int p = 0; p < points; ++p)
+            SetTextElement(chart, kPointLabels, s * points + p, labelOf(s, p), buffer);
 }
 
 } // namespace
@@ -110,7 +137,6 @@ void EPlotData::UpdatePlotFromData(HWND chart) {
         // The count is the curve's index: s missing values each time.
         const std::vector<double> missingRow(size_t(m_numSets), kMissing);
         std::vector<char> buffer;
-        int k = 0;
         for (int s = 0; s < m_numSets; ++s) {
             ChartSetArray(chart, 3656, missingRow.data(), s);
             ChartSetArray(chart, 3268, missingRow.data(), s);
@@ -122,16 +148,27 @@ void EPlotData::UpdatePlotFromData(HWND chart) {
             SetTextElement(chart, 2125, s,
                            size_t(s) < m_curveNames.size() ? m_curveNames[size_t(s)] : noText,
                            buffer);
-            for (int p = 0; p < m_numPoints; ++p) {
-                if (!m_xValues.empty())
-                    ChartSetElement(chart, 3013, k, &at(m_xValues, s, p, missing));
-                if (size_t(s) < m_pointLabels.size())
-                    SetTextElement(chart, 2130, k, at(m_pointLabels, s, p, noText), buffer);
-                if (!m_yValues.empty())
-                    ChartSetElement(chart, 3014, k, &at(m_yValues, s, p, missing));
-                ++k;
-            }
         }
+        // The points go curve after curve at flat indices. The coordinate arrays were emptied
+        // above, so each goes whole in one call.
+        const size_t total = size_t(m_numSets) * size_t(std::max(m_numPoints, 0));
+        const auto pushAll = [&](int property, const std::vector<std::vector<double>>& rows) {
+            if (rows.empty())
+                return;
+            std::vector<double> flat;
+            flat.reserve(total);
+            for (int s = 0; s < m_numSets; ++s)
+                for (int p = 0; p < m_numPoints; ++p)
+                    flat.push_back(at(rows, s, p, missing));
+            if (ChartSetArray(chart, property, flat.data(), int(flat.size())))
+                return;
+            for (size_t k = 0; k < flat.size(); ++k) // too many for one array: as many as fit
+                ChartSetElement(chart, property, int(k), &flat[k]);
+        };
+        pushAll(3013, m_xValues);
+        PushLabels(chart, m_pointLabels, std::min(m_numSets, int(m_pointLabels.size())),
+                   m_numPoints, buffer);
+        pushAll(3014, m_yValues);
     }
     if (m_dateTimeBase == kNoDateTime) {
         ChartSetInt(chart, 3018, 0);

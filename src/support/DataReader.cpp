@@ -1,5 +1,9 @@
+// The text data reader: whole lines through the C library's getline, numbers through
+// std::from_chars where it reads what strtod reads, and the scanner for the rest.
+
 #include "support/DataReader.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -10,8 +14,7 @@
 
 namespace {
 
-constexpr char kSeparators[] = " ,\t\r\n";
-constexpr int kChunkSize = 50;
+constexpr int kPieceSize = 49; // bytes the reader took from the file at a time
 constexpr int kEndOfFileMark = 26;
 
 // Lines read per stream. Entries outlive their streams: a new stream at the same address
@@ -57,9 +60,11 @@ bool FindToken(std::string_view line, Token& token) {
         token.text = rest.substr(1, quote - 1);
         rest.remove_prefix(quote + 1);
     } else {
-        const auto separator = rest.find_first_of(kSeparators);
-        token.text = rest.substr(0, separator);
-        rest.remove_prefix(separator == std::string_view::npos ? rest.size() : separator);
+        size_t length = 0;
+        while (length < rest.size() && !IsSeparator(rest[length]))
+            ++length;
+        token.text = rest.substr(0, length);
+        rest.remove_prefix(length);
     }
     token.consumed = int(line.size() - rest.size()) + LeadingSeparators(rest);
     return true;
@@ -79,11 +84,25 @@ std::int64_t TruncateTo64(double value) {
     return std::int64_t(value);
 }
 
+// A plain decimal number, with at most a minus sign before it: from_chars reads it to the same
+// value as strtod, both rounding correctly. Signs, blanks, hexadecimal, infinities and NaNs are
+// left to strtod.
+bool IsPlainDecimal(std::string_view token) {
+    const size_t first = !token.empty() && token.front() == '-' ? 1 : 0;
+    return first < token.size() &&
+           ((token[first] >= '0' && token[first] <= '9') || token[first] == '.');
+}
+
 // What sscanf with "%lf" reads: strtod agrees with it whenever strtod takes the whole token;
 // otherwise the scanner itself decides.
 bool ScanDouble(std::string_view token, double& value) {
     if (token.empty())
         return false;
+    if (IsPlainDecimal(token)) {
+        const auto [end, error] = std::from_chars(token.data(), token.data() + token.size(), value);
+        if (error == std::errc() && end == token.data() + token.size())
+            return true;
+    }
     char small[64];
     std::string large;
     const char* text = small;
@@ -119,44 +138,40 @@ template <typename Target> int ReadThrough(CString& line, Target* target) {
 } // namespace
 
 bool daGetLine(CString& line, FILE* file) {
-    line.Empty();
-    if (file == nullptr || std::feof(file))
+    if (file == nullptr || std::feof(file)) {
+        line.Empty();
         return false;
-    // The text goes to the line in pieces of 49 bytes, and the end of the file counts as a
-    // line end only while a piece is being filled: the count of bytes in the piece decides.
-    char chunk[kChunkSize];
-    int used = 0;
-    bool read = true;
-    while (true) {
-        const int ch = getc_unlocked(file);
-        if (ch == EOF) {
-            if (used == 0 || (used == 1 && chunk[0] == char(kEndOfFileMark))) {
-                read = false;
-                if (used == 1)
-                    line.Empty();
-            }
-            break;
-        }
-        if (ch == 0 || ch > 127)
-            continue;
-        if (ch == '\n') {
-            line.Append(chunk, used);
-            used = 0;
-            line.TrimRight('\r');
-            break;
-        }
-        chunk[used++] = char(ch);
-        if (used == kChunkSize - 1) {
-            line.Append(chunk, used);
-            used = 0;
+    }
+    // The buffer of the C library's getline, kept from line to line; single-threaded.
+    static char* raw = nullptr;
+    static size_t capacity = 0;
+    const ssize_t read = getline(&raw, &capacity, file);
+    if (read <= 0) {
+        line.Empty();
+        return false;
+    }
+    const bool ended = raw[read - 1] == '\n';
+    // The line goes into the string's own buffer, which it keeps from line to line.
+    char* text = line.GetBufferSetLength(int(read));
+    int kept = 0;
+    for (ssize_t i = 0; i < read - (ended ? 1 : 0); ++i) {
+        const auto ch = static_cast<unsigned char>(raw[i]);
+        if (ch != 0 && ch <= 127)
+            text[kept++] = char(ch);
+    }
+    line.ReleaseBuffer(kept);
+    if (!ended) {
+        // The text was taken in pieces of 49 bytes, and the end of the file counts as a line
+        // end only while a piece is being filled: the count of bytes in the last piece decides.
+        const int lastPiece = kept % kPieceSize;
+        if (lastPiece == 0)
+            return false;
+        if (lastPiece == 1 && text[kept - 1] == char(kEndOfFileMark)) {
+            line = CString(char(kEndOfFileMark));
+            return false;
         }
     }
-    if (used > 0) {
-        line.Append(chunk, used);
-        line.TrimRight('\r');
-    }
-    if (!read)
-        return false;
+    line.TrimRight('\r');
     auto [entry, inserted] = LineCounts().try_emplace(file, -1);
     ++entry->second;
     return true;

@@ -1,14 +1,23 @@
+// The number formatter. Digits come from std::to_chars, which rounds exactly as printf does, into
+// buffers on the stack: one conversion to find the decimals a value needs and one to show it.
+
 #include "support/FormatDouble.h"
 
+#include <algorithm>
+#include <charconv>
 #include <climits>
 #include <cmath>
-#include <cstdio>
-#include <string>
+#include <cstring>
+#include <memory>
+#include <string_view>
 
 namespace {
 
 constexpr double kEpsilon = 2.220446049250313e-16;
 constexpr int kNoDecimalsSet = 800;
+constexpr int kPrintfDefaultPrecision = 6;
+// Everything of a printed double but its decimals: sign, 309 integer digits, point, exponent.
+constexpr int kRoomBesidesDecimals = 330;
 
 bool IsNear(double a, double b) {
     return std::fabs(a - b) <= std::fabs((a + b) * kEpsilon);
@@ -17,29 +26,31 @@ bool IsClearlyAbove(double a, double b) {
     return a - b > std::fabs((a + b) * kEpsilon);
 }
 
-std::string Print(const char* format, int first, int second, double value) {
-    char small[64];
-    const int length = std::snprintf(small, sizeof small, format, first, second, value);
-    if (length < int(sizeof small))
-        return std::string(small, size_t(std::max(length, 0)));
-    std::string text(size_t(length) + 1, '\0');
-    std::snprintf(text.data(), text.size(), format, first, second, value);
-    text.resize(size_t(length));
-    return text;
-}
+// Room for one printed value: on the stack unless a caller asks for hundreds of decimals.
+class TextBuffer {
+public:
+    char* Reserve(int size) {
+        if (size <= int(sizeof m_small))
+            return m_small;
+        m_large = std::make_unique<char[]>(size_t(size));
+        return m_large.get();
+    }
 
+private:
+    char m_small[512];
+    std::unique_ptr<char[]> m_large;
+};
+
+// `value` as printf's "%.*f" or "%.*e" prints it, with room left behind for `extra` characters.
 // A negative precision counts as none given, as printf takes it from an argument.
-std::string PrintFixed(double value, int decimals) {
-    return Print("%*.*f", 0, decimals < 0 ? 6 : decimals, value);
-}
-
-// The user sees three exponent digits, as the system's own runtime prints them.
-std::string PrintExponent(double value, int decimals) {
-    std::string text = Print("%*.*e", 0, decimals, value);
-    const auto e = text.find('e');
-    if (e != std::string::npos && e + 4 == text.size())
-        text.insert(e + 2, 1, '0');
-    return text;
+char* Print(TextBuffer& buffer, double value, std::chars_format format, int precision, int extra,
+            int& length) {
+    if (precision < 0)
+        precision = kPrintfDefaultPrecision;
+    const int size = precision + kRoomBesidesDecimals + extra;
+    char* first = buffer.Reserve(size);
+    length = int(std::to_chars(first, first + size, value, format, precision).ptr - first);
+    return first;
 }
 
 // The integer part as the conversion to a 32-bit integer leaves it: out of range gives the
@@ -52,19 +63,40 @@ int IntegerPart(double value) {
     return int(integral);
 }
 
-void TrimZeros(std::string& text) {
-    if (text.find('.') == std::string::npos)
+// Removes the first `ch` of text[0, length).
+void EraseFirst(char* text, int& length, char ch) {
+    if (char* found = static_cast<char*>(std::memchr(text, ch, size_t(length)))) {
+        std::memmove(found, found + 1, size_t(text + length - found - 1));
+        --length;
+    }
+}
+
+// The user sees three exponent digits, as the system's own runtime prints them.
+void WidenExponent(char* text, int& length) {
+    const char* e = static_cast<const char*>(std::memchr(text, 'e', size_t(length)));
+    if (e == nullptr || e + 4 != text + length)
         return;
-    const auto e = text.find_first_of("eE");
-    if (e != std::string::npos) {
-        for (size_t position = e - 1;
-             position > 0 && text[position] == '0' && text[position - 1] != '.'; --position)
-            text.erase(position, 1);
+    char* digits = text + (e - text) + 2;
+    std::memmove(digits + 1, digits, 2);
+    *digits = '0';
+    ++length;
+}
+
+void TrimZeros(char* text, int& length) {
+    const std::string_view view(text, size_t(length));
+    if (view.find('.') == std::string_view::npos)
+        return;
+    if (const auto e = view.find_first_of("eE"); e != std::string_view::npos) {
+        size_t keep = e; // zeros run back from the exponent while a digit stays after the point
+        while (keep - 1 > 0 && text[keep - 1] == '0' && text[keep - 2] != '.')
+            --keep;
+        std::memmove(text + keep, text + e, size_t(length) - e);
+        length -= int(e - keep);
         return;
     }
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.back() == '.')
-        text += '0';
+    length = int(view.find_last_not_of('0')) + 1;
+    if (text[length - 1] == '.')
+        text[length++] = '0';
 }
 
 } // namespace
@@ -82,32 +114,45 @@ int xgAutoDecimals(double value, int& flags, int width) {
     const bool single = (flags & FMT_SINGLE) != 0;
     const bool exponent = (flags & FMT_EXPONENT) != 0;
 
-    std::string integerText;
-    std::string digits;
+    // The significant digits (with the sign) in a row, and how many characters the integer
+    // part takes.
+    TextBuffer buffer;
+    char* digits = nullptr;
+    int digitCount = 0;
+    int integerLength = 0;
     int integerPart = 0;
     if (exponent) {
-        digits = Print("%*.*e", 1, 15, value);
-        integerText = digits.substr(0, digits.find('.'));
-        digits.erase(digits.find('e'));
-        digits.erase(digits.find('.'), 1);
+        digits = Print(buffer, value, std::chars_format::scientific, 15, 0, digitCount);
+        integerLength =
+            int(static_cast<const char*>(std::memchr(digits, '.', size_t(digitCount))) - digits);
+        digitCount =
+            int(static_cast<const char*>(std::memchr(digits, 'e', size_t(digitCount))) - digits);
     } else {
         integerPart = IntegerPart(value);
-        integerText = std::to_string(integerPart);
-        const int length = int(integerText.size());
+        char integerText[16];
+        integerLength =
+            int(std::to_chars(integerText, integerText + sizeof integerText, integerPart).ptr -
+                integerText);
         const int budget = single ? 7 : 14;
-        digits = Print("%*.*f", length, std::max(budget - length, 0), value);
-        if (const auto point = digits.find('.'); point != std::string::npos)
-            digits.erase(point, 1);
+        int printed = 0;
+        // The integer text is the field width: a shorter number is padded with blanks, as the
+        // runtime pads it.
+        digits = Print(buffer, value, std::chars_format::fixed, std::max(budget - integerLength, 0),
+                       integerLength, printed);
+        const int padding = std::max(integerLength - printed, 0);
+        std::memmove(digits + padding, digits, size_t(printed));
+        std::memset(digits, ' ', size_t(padding));
+        digitCount = printed + padding;
     }
+    EraseFirst(digits, digitCount, '.');
 
-    const int integerDigits = int(integerText.size()) - (value < 0 ? 1 : 0);
-    const int digitCount = int(digits.size());
+    const int integerDigits = integerLength - (value < 0 ? 1 : 0);
     int count = (single ? 6 : 13) - integerDigits;
     if (integerDigits == 1 && integerPart == 0)
         ++count;
     if (count >= digitCount)
         count = digitCount - 1;
-    while (count >= 0 && digits[size_t(count)] == '0')
+    while (count >= 0 && digits[count] == '0')
         --count;
     ++count;
 
@@ -127,7 +172,7 @@ int xgAutoDecimals(double value, int& flags, int width) {
         count = room;
         if (room < 0)
             return room;
-        while (count > 0 && digits[size_t(count - 1)] == '0')
+        while (count > 0 && digits[count - 1] == '0')
             --count;
         return count;
     }
@@ -144,11 +189,28 @@ CString xgFormatDouble(double value, int decimals, int width, int flags) {
         if ((flags & FMT_MAX_DECIMALS) != 0 && count > decimals)
             count = decimals;
     }
-    std::string text = (flags & FMT_EXPONENT) != 0 ? PrintExponent(value, std::abs(count))
-                                                   : PrintFixed(value, count);
+    // Room after the number for the third exponent digit, the zero after a bare point and the
+    // blanks of the padding.
+    const int extra = 2 + std::max(width, 0);
+    TextBuffer buffer;
+    int length = 0;
+    char* text = nullptr;
+    if ((flags & FMT_EXPONENT) != 0) {
+        // The magnitude of INT_MIN is out of range: the runtime's absolute value leaves it
+        // negative, which printf takes as no precision.
+        const int precision = count == INT_MIN ? -1 : std::abs(count);
+        text = Print(buffer, value, std::chars_format::scientific, precision, extra, length);
+        WidenExponent(text, length);
+    } else {
+        text = Print(buffer, value, std::chars_format::fixed, count, extra, length);
+    }
     if (automatic)
-        TrimZeros(text);
-    if ((flags & FMT_PAD_LEFT) != 0 && int(text.size()) < width)
-        text.insert(0, size_t(width) - text.size(), ' ');
-    return CString(text.c_str());
+        TrimZeros(text, length);
+    if ((flags & FMT_PAD_LEFT) != 0 && length < width) {
+        const int padding = width - length;
+        std::memmove(text + padding, text, size_t(length));
+        std::memset(text, ' ', size_t(padding));
+        length = width;
+    }
+    return CString(text, length);
 }

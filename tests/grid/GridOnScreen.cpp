@@ -28,3 +28,9 @@ CRect GridOnScreen::Client() const {
     grid.GetClientRect(&client);
     return client;
 }
+
+CPoint GridOnScreen::CellCentre(int row, int col) {
+    CRect rect;
+    EXPECT_TRUE(grid.GetCellRect(row, col, &rect)) << row << "," << col;
+    return rect.CenterPoint();
+}

@@ -39,6 +39,9 @@ protected:
     void Open(int rows, int cols, int clientWidth = 400, int clientHeight = 300);
 
     CRect Client() const;
+    // The middle of a cell as the grid places it now, for clicking it.
+    CPoint CellCentre(int row, int col);
+    HWND Grid() const { return grid.GetSafeHwnd(); }
     COLORREF Pixel(int x, int y) { return ui.Pixel(grid.GetSafeHwnd(), CPoint(x, y)); }
     // How many pixels of `rect` (exclusive of its right and bottom) the test accepts.
     template <typename Test> int CountPixels(const CRect& rect, Test test) {

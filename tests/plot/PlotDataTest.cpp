@@ -94,6 +94,23 @@ TEST_F(PlotDataTest, PointDataPushesFlatIndicesNamesAndColours) {
     EXPECT_EQ(colour, 0x00FF00);
 }
 
+TEST_F(PlotDataTest, EmptyLabelsMakeAListAsLongAsThePointsAndOverwriteEarlierLabels) {
+    Fill();
+    EXPECT_EQ(ChartGetArray(chart, 2130, nullptr), 4); // four empty labels, each with its tab
+
+    EPlotData labelled;
+    labelled.Initialize(1, 6, 0);
+    labelled.SetPointLabel(0, 1, "peak");
+    labelled.UpdatePlotFromData(chart);
+    EXPECT_EQ(Element(2130, 1), "peak");
+    EPlotData plain;
+    plain.Initialize(1, 3, 0);
+    plain.UpdatePlotFromData(chart);
+    EXPECT_EQ(Element(2130, 1), "");
+    EXPECT_EQ(ChartGetArray(chart, 2130, nullptr), 6); // the longer list keeps its length
+    EXPECT_EQ(Doubles(3014).size(), 3u);
+}
+
 TEST_F(PlotDataTest, BarDataPushesYAndTheFirstCurvesLabelsOnly) {
     ChartSetArray(chart, 3013, nullptr, 0);
     EPlotData data;

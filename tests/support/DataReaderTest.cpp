@@ -2,11 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
+#include <cmath>
+#include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
+#include <random>
 #include <string>
+#include <vector>
 
 namespace {
+
+constexpr int kRandomNumbers = 2000;
 
 // A stream over a copy of `content`, closed at the end of the test.
 class MemoryFile {
@@ -168,6 +176,57 @@ TEST(DaReadData, ConversionsOfTheOtherTypes) {
     CString text;
     EXPECT_EQ(daReadData(line, text), 1);
     EXPECT_EQ(Text(text), "q");
+}
+
+// Every spelling of a number that the C library reads, and random values in every form that
+// printf writes, come out as strtod reads them, bit for bit.
+TEST(DaReadData, NumbersReadAsTheCLibraryReadsThem) {
+    std::vector<std::string> tokens = {"0",
+                                       "-0",
+                                       "+2.5",
+                                       ".5",
+                                       "-.5",
+                                       "5.",
+                                       "1e3",
+                                       "1E-3",
+                                       "-1.5e+2",
+                                       "0x1A",
+                                       "0x1p-3",
+                                       "inf",
+                                       "-INF",
+                                       "infinity",
+                                       "nan",
+                                       "1e400",
+                                       "-1e400",
+                                       "1e-400",
+                                       "4.9e-324",
+                                       "2.2250738585072011e-308",
+                                       "1.7976931348623157e308",
+                                       "0.1000000000000000055511151231257827",
+                                       "9007199254740993",
+                                       "00012.50",
+                                       "123456789012345678901234567890"};
+    std::mt19937_64 random(5);
+    for (int i = 0; i < kRandomNumbers; ++i) {
+        const double value = std::bit_cast<double>(random());
+        char text[64];
+        for (const char* format : {"%.17g", "%.6f", "%.3e", "%a"}) {
+            std::snprintf(text, sizeof text, format, value);
+            tokens.emplace_back(text);
+        }
+    }
+    for (const std::string& token : tokens) {
+        char* end = nullptr;
+        const double expected = std::strtod(token.c_str(), &end);
+        CString line(token.c_str());
+        double value = 0.0;
+        ASSERT_EQ(daReadData(line, value), 1) << token;
+        if (std::isnan(expected))
+            EXPECT_TRUE(std::isnan(value)) << token;
+        else
+            EXPECT_EQ(std::bit_cast<std::uint64_t>(value), std::bit_cast<std::uint64_t>(expected))
+                << token;
+    }
 }
 
 TEST(DataReader, ReadsAnEngineeringTable) {

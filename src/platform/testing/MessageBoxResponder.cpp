@@ -1,10 +1,10 @@
 #include "platform/testing/MessageBoxResponder.h"
 
-#include "platform/host/HeadlessHost.h"
+#include "platform/window/MessageBoxDialog.h"
 
 MessageBoxResponder::MessageBoxResponder() {
     m_previous = SetMessageBoxAnswerer([this](const MessageBoxRecord& box) {
-        int answer = DefaultMessageBoxButton(box.type);
+        int answer = MessageBoxDefaultButton(box.type);
         if (!m_answers.empty()) {
             answer = m_answers.front();
             m_answers.pop_front();

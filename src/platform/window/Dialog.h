@@ -1,37 +1,21 @@
 #pragma once
 
-// Dialog boxes built from templates kept in code. A template names the caption, the size in
-// dialog units and the controls; Create shows the dialog modeless, DoModal runs it until
-// EndDialog. Headless runs never wait on a modal dialog: the installed responder works it once
-// it is shown, and a dialog that nobody ends is cancelled.
+// Dialog boxes built from templates kept in code (DialogTemplate.h). Create shows a dialog
+// modeless; DoModal runs it in a loop of its own until EndDialog, with its owner disabled,
+// waiting for the user on a display. Headless runs never wait on a modal dialog: the installed
+// responder works it once it is shown, and a dialog that nobody ends is cancelled.
 
+#include "platform/gdi/Font.h"
+#include "platform/window/DataExchange.h"
+#include "platform/window/DialogApi.h"
+#include "platform/window/DialogTemplate.h"
 #include "platform/window/Wnd.h"
 
 #include <functional>
-#include <string>
-#include <vector>
-
-struct DialogItemTemplate {
-    std::string className; // a registered window class; empty for a plain window
-    std::string text;
-    UINT id = 0;
-    DWORD style = 0; // WS_CHILD is always added
-    RECT rect{};     // dialog units
-};
-
-struct DialogTemplate {
-    std::string caption;
-    SIZE size{}; // dialog units
-    std::vector<DialogItemTemplate> items;
-};
-
-// Templates are looked up by the dialog's identifier. Single-threaded: the table is shared
-// without locks.
-ORVA_API void RegisterDialogTemplate(UINT templateId, DialogTemplate dialogTemplate);
-ORVA_API const DialogTemplate* FindDialogTemplate(UINT templateId);
+#include <optional>
 
 class CDialog;
-// Called with each modal dialog once it is shown; it may press buttons or end the dialog.
+// Called with each modal dialog once it is shown; it may work its controls or end it.
 using DialogResponder = std::function<void(CDialog& dialog)>;
 // Installs a responder (an empty one removes it); answers the previous one.
 ORVA_API DialogResponder SetDialogResponder(DialogResponder responder);
@@ -42,16 +26,31 @@ public:
 
     // Modeless: creates the dialog and its controls; false without a template.
     BOOL Create(UINT templateId, CWnd* parent = nullptr);
+    BOOL CreateIndirect(const DialogTemplate& dialogTemplate, CWnd* parent = nullptr);
+    // Makes DoModal use this template instead of the registered one.
+    BOOL InitModalIndirect(const DialogTemplate& dialogTemplate, CWnd* parent = nullptr);
     // Modal: answers the result given to EndDialog, or -1 without a template.
     virtual INT_PTR DoModal();
     void EndDialog(int result);
 
-    // Dialog units to pixels, from the base units of the dialog font (6 x 13 px).
+    // Dialog units to pixels through the dialog's font (the default font before it exists).
     void MapDialogRect(LPRECT rect) const;
+    // Moves the focus as the keyboard does: to a control, or to the next or previous tab stop.
+    void GotoDlgCtrl(CWnd* control);
+    void NextDlgCtrl() const;
+    void PrevDlgCtrl() const;
+    // The default push button, pressed by Enter: DM_SETDEFID and DM_GETDEFID.
+    void SetDefID(UINT id);
+    DWORD GetDefID() const;
 
+    // Called before the dialog shows; TRUE lets the focus go to the first tab stop. Loads the
+    // members into the controls.
     virtual BOOL OnInitDialog();
+    // Saves the controls into the members and, when they were valid, ends with IDOK.
     virtual void OnOK();
     virtual void OnCancel();
+    // Gives keyboard messages the dialog's meaning (IsDialogMessage).
+    BOOL PreTranslateMessage(MSG* msg) override;
 
     UINT m_nIDHelp = 0;
     LPCSTR m_lpszTemplateName = nullptr;
@@ -61,11 +60,24 @@ protected:
 
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+    // Called once a modal dialog is shown and its first messages are handled; runs the
+    // installed responder.
+    virtual void OnModalShown();
+    // The result of a modal dialog that nobody can answer, on a host without a user.
+    virtual int UnattendedResult() const { return IDCANCEL; }
+    bool IsEnded() const { return m_ended; }
 
 private:
+    const DialogTemplate* ModalTemplate() const;
+    BOOL CreateFromTemplate(const DialogTemplate& dialogTemplate, HWND owner);
+    void CreateItems(const DialogTemplate& dialogTemplate, SIZE baseUnits);
+    void RunModalLoop();
+
     UINT m_templateId = 0;
     CWnd* m_parent = nullptr;
+    std::optional<DialogTemplate> m_indirectTemplate;
+    CFont m_font; // the template's font, which the dialog and its controls use
     bool m_modal = false;
     bool m_ended = false;
-    int m_result = 0;
+    int m_result = IDCANCEL;
 };

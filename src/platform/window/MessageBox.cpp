@@ -1,7 +1,10 @@
+// MessageBox and AfxMessageBox: each box is a modal message box dialog; an installed answerer
+// may answer it, and every box shown is logged.
+
 #include "platform/window/MessageBox.h"
 
-#include "platform/host/Host.h"
 #include "platform/window/MessageBoxAnswerer.h"
+#include "platform/window/MessageBoxDialog.h"
 #include "platform/window/Wnd.h"
 
 #include <errno.h>
@@ -39,12 +42,13 @@ void ClearMessageBoxLog() {
 int MessageBox(HWND owner, const char* text, const char* caption, UINT type) {
     MessageBoxRecord box{owner, text ? text : "", caption ? caption : "Error", type, 0};
     // The box is modal: input to the application waits until it is answered.
-    const HWND capture = GetCapture();
-    if (capture)
+    if (GetCapture())
         ReleaseCapture();
-    box.answer = Answerer()
-                     ? Answerer()(box)
-                     : GetHost().ShowMessageBox(owner, box.text.c_str(), box.caption.c_str(), type);
+    CMessageBoxDialog dialog(owner, box.text, box.caption, type);
+    if (Answerer())
+        dialog.SetAnswerer([&box] { return Answerer()(box); });
+    const INT_PTR answer = dialog.DoModal();
+    box.answer = answer > 0 ? int(answer) : MessageBoxDefaultButton(type);
     Log().push_back(box);
     return box.answer;
 }

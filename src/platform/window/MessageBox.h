@@ -1,8 +1,9 @@
 #pragma once
 
-// The message box. It is modal: the call returns the id of the button chosen. Who answers it
-// depends on the host and on an installed answerer (see MessageBoxAnswerer.h); a headless run
-// with no answerer takes the default button and records the box.
+// The message box, a modal dialog of the standard controls (MessageBoxDialog.h): the call
+// returns the id of the button chosen. An installed answerer (MessageBoxAnswerer.h) or dialog
+// responder may answer it; on a display the user does; a headless run with nobody to answer
+// takes the default button. Every box is recorded.
 
 #include "platform/base/Export.h"
 #include "platform/base/Messages.h"

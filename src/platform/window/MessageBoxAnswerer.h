@@ -20,7 +20,7 @@ struct MessageBoxRecord {
 
 using MessageBoxAnswerer = std::function<int(const MessageBoxRecord& box)>;
 
-// Installs an answerer (an empty one restores the host's own box); answers the previous one.
+// Installs an answerer (an empty one leaves the boxes to the user); answers the previous one.
 ORVA_API MessageBoxAnswerer SetMessageBoxAnswerer(MessageBoxAnswerer answerer);
 // Every message box shown so far, oldest first.
 ORVA_API const std::vector<MessageBoxRecord>& MessageBoxLog();

@@ -229,14 +229,7 @@ bool PumpMessages() {
     while (PeekMessage(&msg, nullptr, 0, 0, PM_REMOVE)) {
         if (msg.message == WM_QUIT)
             return true;
-        bool handled = false;
-        for (HWND h = msg.hwnd; h && !handled; h = GetParent(h)) {
-            if (CWnd* wnd = CWnd::FromHandlePermanent(h))
-                handled = wnd->PreTranslateMessage(&msg);
-            if (!(GetWindowLong(h, GWL_STYLE) & WS_CHILD))
-                break;
-        }
-        if (handled)
+        if (CWnd::WalkPreTranslateTree(&msg))
             continue;
         TranslateMessage(&msg);
         DispatchMessage(&msg);

@@ -182,18 +182,31 @@ int MapWindowPoints(HWND from, HWND to, POINT* points, UINT count) {
 }
 
 namespace {
+// A child that answers HTTRANSPARENT to the hit test (a group box, a static text) lets the
+// mouse through to the windows beneath it, as the framework's hit testing does.
+bool LetsMouseThrough(HWND child, CPoint screen) {
+    // As an int: a CWnd answers its hit test through a UINT handler.
+    return int(SendMessage(child, WM_NCHITTEST, 0, MAKELPARAM(WORD(screen.x), WORD(screen.y)))) ==
+           HTTRANSPARENT;
+}
+
 // The deepest visible window under a screen point, searching from `w` down.
 HWND DeepestAt(const WindowRecord& w, CPoint screen) {
     const CRect client(ClientOrigin(w), ClientInWindow(w).Size());
     if (!client.PtInRect(screen))
         return w.handle;
-    for (HWND child : w.children) {
+    const HWND self = w.handle;
+    // A copy: the hit test is a message, and its handler may change the children.
+    const std::vector<HWND> children = w.children;
+    for (HWND child : children) {
         const WindowRecord* c = Find(child);
         if (c && (c->style & WS_VISIBLE) &&
-            CRect(WindowOrigin(*c), c->rect.Size()).PtInRect(screen))
-            return DeepestAt(*c, screen);
+            CRect(WindowOrigin(*c), c->rect.Size()).PtInRect(screen) &&
+            !LetsMouseThrough(child, screen))
+            if (const WindowRecord* again = Find(child))
+                return DeepestAt(*again, screen);
     }
-    return w.handle;
+    return Find(self) ? self : nullptr;
 }
 } // namespace
 

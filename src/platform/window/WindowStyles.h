@@ -32,6 +32,13 @@ constexpr DWORD WS_OVERLAPPEDWINDOW =
 constexpr DWORD WS_POPUPWINDOW = WS_POPUP | WS_BORDER | WS_SYSMENU;
 constexpr DWORD WS_CHILDWINDOW = WS_CHILD;
 
+// Dialog styles.
+constexpr DWORD DS_SETFONT = 0x0040;
+constexpr DWORD DS_MODALFRAME = 0x0080;
+constexpr DWORD DS_CONTROL = 0x0400;
+constexpr DWORD DS_CENTER = 0x0800;
+constexpr DWORD DS_SHELLFONT = DS_SETFONT | 0x0008;
+
 // Extended window styles.
 constexpr DWORD WS_EX_DLGMODALFRAME = 0x00000001;
 constexpr DWORD WS_EX_NOPARENTNOTIFY = 0x00000004;
@@ -105,6 +112,15 @@ constexpr DWORD CBS_DISABLENOSCROLL = 0x0800;
 constexpr DWORD CBS_UPPERCASE = 0x2000;
 constexpr DWORD CBS_LOWERCASE = 0x4000;
 
+// Date-and-time picker styles.
+constexpr DWORD DTS_SHORTDATEFORMAT = 0x0000;
+constexpr DWORD DTS_UPDOWN = 0x0001;
+constexpr DWORD DTS_SHOWNONE = 0x0002;
+constexpr DWORD DTS_LONGDATEFORMAT = 0x0004;
+constexpr DWORD DTS_TIMEFORMAT = 0x0009;
+constexpr DWORD DTS_SHORTDATECENTURYFORMAT = 0x000C;
+constexpr DWORD DTS_RIGHTALIGN = 0x0020;
+
 // Static control styles.
 constexpr DWORD SS_LEFT = 0x0000;
 constexpr DWORD SS_CENTER = 0x0001;
@@ -129,6 +145,13 @@ constexpr DWORD SS_NOTIFY = 0x0100;
 constexpr DWORD SS_CENTERIMAGE = 0x0200;
 constexpr DWORD SS_SUNKEN = 0x1000;
 constexpr DWORD SS_ENDELLIPSIS = 0x4000;
+
+// Scroll bar control styles.
+constexpr DWORD SBS_HORZ = 0x0000;
+constexpr DWORD SBS_VERT = 0x0001;
+constexpr DWORD SBS_SIZEBOXBOTTOMRIGHTALIGN = 0x0004;
+constexpr DWORD SBS_SIZEBOX = 0x0008;
+constexpr DWORD SBS_SIZEGRIP = 0x0010;
 
 // Window class styles.
 constexpr UINT CS_VREDRAW = 0x0001;

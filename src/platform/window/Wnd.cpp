@@ -546,25 +546,6 @@ void CWnd::CenterWindow(CWnd* alternateOwner) {
 void CWnd::BringWindowToTop() {
     SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
 }
-CWnd* CWnd::GetNextDlgTabItem(CWnd* control, BOOL previous) const {
-    // Controls in z-order that are visible, enabled and stop the tab key, wrapping around.
-    std::vector<HWND> stops;
-    for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child;
-         child = ::GetWindow(child, GW_HWNDNEXT)) {
-        const DWORD style = DWORD(::GetWindowLong(child, GWL_STYLE));
-        if ((style & WS_TABSTOP) && (style & WS_VISIBLE) && !(style & WS_DISABLED))
-            stops.push_back(child);
-    }
-    if (stops.empty())
-        return nullptr;
-    const auto it = std::find(stops.begin(), stops.end(), SafeHwnd(control));
-    if (it == stops.end())
-        return FromHandle(previous ? stops.back() : stops.front());
-    const std::ptrdiff_t n = std::ptrdiff_t(stops.size());
-    const std::ptrdiff_t i = (it - stops.begin() + (previous ? n - 1 : 1)) % n;
-    return FromHandle(stops[size_t(i)]);
-}
-
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (m_pfnSuper)
         return ::CallWindowProc(m_pfnSuper, m_hWnd, message, wParam, lParam);
@@ -579,6 +560,18 @@ LRESULT CWnd::Default() {
 }
 
 BOOL CWnd::PreTranslateMessage(MSG*) {
+    return FALSE;
+}
+
+BOOL CWnd::WalkPreTranslateTree(MSG* msg) {
+    // Each handler may destroy windows: the walk goes on from handles, never from objects.
+    for (HWND h = msg->hwnd; h; h = ::GetParent(h)) {
+        if (CWnd* wnd = FromHandlePermanent(h))
+            if (wnd->PreTranslateMessage(msg))
+                return TRUE;
+        if (!(::GetWindowLong(h, GWL_STYLE) & WS_CHILD))
+            break;
+    }
     return FALSE;
 }
 

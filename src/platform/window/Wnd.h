@@ -10,6 +10,7 @@
 #include "platform/window/WindowApi.h"
 
 class CDC;
+class CDataExchange;
 class CFont;
 class CScrollBar;
 
@@ -166,6 +167,20 @@ public:
     void CenterWindow(CWnd* alternateOwner = nullptr);
     void BringWindowToTop();
     CWnd* GetNextDlgTabItem(CWnd* control, BOOL previous = FALSE) const;
+    CWnd* GetNextDlgGroupItem(CWnd* control, BOOL previous = FALSE) const;
+
+    // The controls of a dialog (or any parent) by id.
+    void CheckDlgButton(int id, UINT check);
+    UINT IsDlgButtonChecked(int id) const;
+    void CheckRadioButton(int firstId, int lastId, int checkId);
+    UINT GetDlgItemInt(int id, BOOL* translated = nullptr, BOOL isSigned = TRUE) const;
+    void SetDlgItemInt(int id, UINT value, BOOL isSigned = TRUE);
+
+    // Data exchange between the controls and the members that DoDataExchange names: TRUE
+    // reads and validates the controls, FALSE shows the members. Answers FALSE when a control
+    // held a value that failed validation; the focus is then on that control.
+    BOOL UpdateData(BOOL saveAndValidate = TRUE);
+    virtual void DoDataExchange(CDataExchange* dx);
 
     // Message processing. WindowProc dispatches to OnWndMsg, which calls the On... handlers;
     // DefWindowProc is where Default() leads.
@@ -173,6 +188,9 @@ public:
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     virtual BOOL PreTranslateMessage(MSG* msg);
+    // Offers a message to PreTranslateMessage of its window and then of each parent up to the
+    // top-level window; answers TRUE when one of them took it.
+    static BOOL WalkPreTranslateTree(MSG* msg);
     // Called after the last message (WM_NCDESTROY); a self-owning window deletes itself here.
     virtual void PostNcDestroy();
     // Offered to a child first when its parent receives its WM_COMMAND or WM_NOTIFY; answering

@@ -1,6 +1,7 @@
 #include "platform/gdi/canvas/Canvas.h"
 
 #include "platform/gdi/Surface.h"
+#include "platform/gdi/canvas/PngWriter.h"
 
 #include <cairo-pdf.h>
 #include <cairo-svg.h>
@@ -292,18 +293,24 @@ COLORREF Canvas::GetPixel(int x, int y) const {
 }
 
 bool Canvas::SavePng(const char* path) const {
-    if (!path || cairo_surface_get_type(m_impl->surface) != CAIRO_SURFACE_TYPE_IMAGE)
+    if (!path)
         return false;
-    return cairo_surface_write_to_png(m_impl->surface, path) == CAIRO_STATUS_SUCCESS;
+    const std::string png = EncodePng();
+    if (png.empty())
+        return false;
+    std::FILE* file = std::fopen(path, "wb");
+    if (!file)
+        return false;
+    const bool written = std::fwrite(png.data(), 1, png.size(), file) == png.size();
+    return std::fclose(file) == 0 && written;
 }
 
 std::string Canvas::EncodePng() const {
-    std::string png;
-    if (cairo_surface_get_type(m_impl->surface) != CAIRO_SURFACE_TYPE_IMAGE ||
-        cairo_surface_write_to_png_stream(m_impl->surface, AppendToString, &png) !=
-            CAIRO_STATUS_SUCCESS)
+    int stride = 0;
+    const unsigned char* data = Pixels(&stride);
+    if (!data)
         return {};
-    return png;
+    return ::EncodePng(data, m_width, m_height, stride);
 }
 
 bool Canvas::SaveBmp(const char* path) const {

@@ -1,0 +1,172 @@
+// The cache of shaped texts: a list in order of use with an index by key. A miss takes over the
+// layout of the entry used longest ago, so that a full cache allocates nothing.
+
+#include "platform/gdi/TextLayoutCache.h"
+
+#include <cstring>
+
+namespace gdi {
+
+TextLayoutCache::~TextLayoutCache() {
+    Clear();
+    if (m_uncached != nullptr)
+        g_object_unref(m_uncached);
+}
+
+// Fonts made anew for each paint, and faces mapped to the same installed font, share their
+// number and so their entries. A program has a handful of fonts: a search is quick.
+std::uint32_t TextLayoutCache::FontNumber(const FontObject* font) {
+    const PangoFontDescription* description = font->description;
+    const char* family = pango_font_description_get_family(description);
+    FontIdentity identity{{pango_font_description_get_size(description),
+                           int(pango_font_description_get_weight(description)),
+                           int(pango_font_description_get_style(description)),
+                           font->log.lfUnderline != 0, font->log.lfStrikeOut != 0},
+                          family != nullptr ? family : ""};
+    for (size_t i = 0; i < m_fonts.size(); ++i)
+        if (m_fonts[i] == identity)
+            return std::uint32_t(i);
+    if (m_fonts.size() == kMostFonts)
+        Clear();
+    m_fonts.push_back(std::move(identity));
+    return std::uint32_t(m_fonts.size() - 1);
+}
+
+void TextLayoutCache::MakeKey(const FontObject* font, std::string_view text) {
+    const std::uint32_t number = FontNumber(font);
+    m_key.assign(reinterpret_cast<const char*>(&number), sizeof number);
+    m_key.append(text);
+}
+
+void TextLayoutCache::Clear() {
+    m_index.clear();
+    for (Entry& entry : m_entries)
+        g_object_unref(entry.shaped.layout);
+    m_entries.clear();
+    m_fonts.clear();
+}
+
+void TextLayoutCache::Configure(PangoLayout* layout, FontObject* font, std::string_view text) {
+    pango_layout_set_font_description(layout, font->description);
+    pango_layout_set_text(layout, text.data(), int(text.size()));
+    if (font->log.lfUnderline || font->log.lfStrikeOut) {
+        PangoAttrList* attributes = pango_attr_list_new();
+        if (font->log.lfUnderline)
+            pango_attr_list_insert(attributes, pango_attr_underline_new(PANGO_UNDERLINE_SINGLE));
+        if (font->log.lfStrikeOut)
+            pango_attr_list_insert(attributes, pango_attr_strikethrough_new(TRUE));
+        pango_layout_set_attributes(layout, attributes);
+        pango_attr_list_unref(attributes);
+    } else {
+        pango_layout_set_attributes(layout, nullptr);
+    }
+}
+
+bool GlyphRuns::Take(PangoLayout* layout) {
+    m_runs.clear();
+    m_glyphs.clear();
+    if (pango_layout_get_line_count(layout) != 1 || pango_layout_get_attributes(layout) != nullptr)
+        return false;
+    PangoLayoutIter* iter = pango_layout_get_iter(layout);
+    bool ok = true;
+    do {
+        PangoLayoutRun* run = pango_layout_iter_get_run_readonly(iter);
+        if (run == nullptr)
+            continue;
+        cairo_scaled_font_t* font =
+            pango_cairo_font_get_scaled_font(PANGO_CAIRO_FONT(run->item->analysis.font));
+        if (font == nullptr || cairo_scaled_font_status(font) != CAIRO_STATUS_SUCCESS) {
+            ok = false;
+            break;
+        }
+        PangoRectangle logical;
+        pango_layout_iter_get_run_extents(iter, nullptr, &logical);
+        m_runs.push_back(
+            {font, logical.x, pango_layout_iter_get_baseline(iter), m_glyphs.size(), 0});
+        int position = 0;
+        for (int i = 0; i < run->glyphs->num_glyphs && ok; ++i) {
+            const PangoGlyphInfo& glyph = run->glyphs->glyphs[i];
+            ok = (glyph.glyph & PANGO_GLYPH_UNKNOWN_FLAG) == 0;
+            if (ok && glyph.glyph != PANGO_GLYPH_EMPTY)
+                m_glyphs.push_back({glyph.glyph,
+                                    double(position + glyph.geometry.x_offset) / PANGO_SCALE,
+                                    glyph.geometry.y_offset});
+            position += glyph.geometry.width;
+        }
+        m_runs.back().glyphCount = m_glyphs.size() - m_runs.back().firstGlyph;
+    } while (ok && pango_layout_iter_next_run(iter));
+    pango_layout_iter_free(iter);
+    if (!ok) {
+        m_runs.clear();
+        m_glyphs.clear();
+    }
+    return ok;
+}
+
+void GlyphRuns::Show(cairo_t* cr, double x, double y) const {
+    for (const Run& run : m_runs) {
+        // The same sums in the same order as Pango's renderer, for the same pixels.
+        const double baseX = x + double(run.x) / PANGO_SCALE;
+        const double baseY = y + double(run.baseline) / PANGO_SCALE;
+        m_placed.clear();
+        for (size_t i = run.firstGlyph; i < run.firstGlyph + run.glyphCount; ++i) {
+            const Glyph& glyph = m_glyphs[i];
+            m_placed.push_back(
+                {glyph.index, baseX + glyph.x,
+                 glyph.yOffset == 0 ? baseY : baseY + double(glyph.yOffset) / PANGO_SCALE});
+        }
+        cairo_save(cr);
+        cairo_set_scaled_font(cr, run.font);
+        cairo_show_glyphs(cr, m_placed.data(), int(m_placed.size()));
+        cairo_restore(cr);
+    }
+}
+
+namespace {
+
+int LogicalWidth(PangoLayout* layout) {
+    PangoRectangle logical;
+    pango_layout_get_pixel_extents(layout, nullptr, &logical);
+    return logical.width;
+}
+
+} // namespace
+
+ShapedText TextLayoutCache::Shape(FontObject* font, std::string_view text) {
+    if (text.size() > kLongestText) {
+        if (m_uncached == nullptr)
+            m_uncached = pango_layout_new(pango_layout_get_context(SharedLayout()));
+        Configure(m_uncached, font, text);
+        return {m_uncached, LogicalWidth(m_uncached), nullptr};
+    }
+    MakeKey(font, text);
+    if (const auto found = m_index.find(m_key); found != m_index.end()) {
+        m_entries.splice(m_entries.begin(), m_entries, found->second);
+        return found->second->shaped;
+    }
+    PangoLayout* layout = nullptr;
+    if (m_entries.size() < kCapacity) {
+        layout = pango_layout_new(pango_layout_get_context(SharedLayout()));
+        m_entries.emplace_front();
+    } else {
+        // The oldest entry's node and layout serve the new text.
+        m_index.erase(m_entries.back().key);
+        m_entries.splice(m_entries.begin(), m_entries, std::prev(m_entries.end()));
+        layout = m_entries.front().shaped.layout;
+    }
+    Entry& entry = m_entries.front();
+    entry.key = m_key;
+    Configure(layout, font, text);
+    entry.shaped = {layout, LogicalWidth(layout), entry.runs.Take(layout) ? &entry.runs : nullptr};
+    m_index.emplace(entry.key, m_entries.begin());
+    return entry.shaped;
+}
+
+TextLayoutCache& SharedTextLayouts() {
+    // Made on first use and never destroyed: its layouts belong to the process's Pango context,
+    // which lives as long.
+    static auto* cache = new TextLayoutCache;
+    return *cache;
+}
+
+} // namespace gdi

@@ -1,0 +1,160 @@
+// The keyboard interface of dialogs: which control Tab, Shift+Tab and the arrow keys lead to,
+// and what Enter and Escape press.
+
+#include "platform/window/DialogApi.h"
+
+#include <vector>
+
+namespace {
+
+bool CanTakeFocus(HWND control) {
+    const DWORD style = DWORD(GetWindowLong(control, GWL_STYLE));
+    return (style & WS_VISIBLE) && !(style & WS_DISABLED);
+}
+
+DWORD StyleOf(HWND control) {
+    return DWORD(GetWindowLong(control, GWL_STYLE));
+}
+
+std::vector<HWND> ChildrenOf(HWND dialog) {
+    std::vector<HWND> children;
+    for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        children.push_back(child);
+    return children;
+}
+
+// The first window from `start` on (or back from it), wrapping around and stopping before
+// `start` comes round again, that `accept` takes; null when none does.
+template <typename Accept>
+HWND FindAround(const std::vector<HWND>& windows, size_t start, bool previous, Accept accept) {
+    const size_t n = windows.size();
+    for (size_t step = 1; step <= n; ++step) {
+        const size_t i = previous ? (start + n * 2 - step) % n : (start + step) % n;
+        if (accept(windows[i]))
+            return windows[i];
+    }
+    return nullptr;
+}
+
+UINT DlgCode(HWND control, const MSG* msg) {
+    return UINT(SendMessage(control, WM_GETDLGCODE, msg ? msg->wParam : 0, LPARAM(msg)));
+}
+
+// Enter: the focus push button, or else the dialog's default button, or else IDOK.
+void PressDefault(HWND dialog, HWND focus, UINT focusCode) {
+    int id = IDOK;
+    if (focusCode & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) {
+        id = GetDlgCtrlID(focus);
+    } else {
+        const auto defId = DWORD(SendMessage(dialog, DM_GETDEFID, 0, 0));
+        if (HIWORD(defId) == DC_HASDEFID)
+            id = LOWORD(defId);
+    }
+    const HWND button = GetDlgItem(dialog, id);
+    if (button && !IsWindowEnabled(button))
+        return;
+    SendMessage(dialog, WM_COMMAND, MAKEWPARAM(WORD(id), BN_CLICKED), LPARAM(button));
+}
+
+// The dialog's meaning of a key, or false when the key is the control's.
+bool HandleKeyDown(HWND dialog, const MSG& msg) {
+    const HWND focus = msg.hwnd;
+    const UINT code = DlgCode(focus, &msg);
+    if (code & DLGC_WANTALLKEYS)
+        return false;
+    switch (msg.wParam) {
+    case VK_TAB:
+        if (code & DLGC_WANTTAB)
+            return false;
+        SendMessage(dialog, WM_NEXTDLGCTL, GetKeyState(VK_SHIFT) < 0 ? 1 : 0, 0);
+        return true;
+    case VK_LEFT:
+    case VK_RIGHT:
+    case VK_UP:
+    case VK_DOWN: {
+        if (code & DLGC_WANTARROWS)
+            return false;
+        const bool previous = msg.wParam == VK_LEFT || msg.wParam == VK_UP;
+        const HWND next = GetNextDlgGroupItem(dialog, focus, previous);
+        if (!next || next == focus)
+            return true;
+        SendMessage(dialog, WM_NEXTDLGCTL, WPARAM(next), TRUE);
+        // Moving onto a radio button chooses it, as clicking it would.
+        if (GetFocus() == next && (DlgCode(next, nullptr) & DLGC_RADIOBUTTON))
+            SendMessage(next, BM_CLICK, 0, 0);
+        return true;
+    }
+    case VK_RETURN:
+        PressDefault(dialog, focus, code);
+        return true;
+    case VK_ESCAPE:
+        SendMessage(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED),
+                    LPARAM(GetDlgItem(dialog, IDCANCEL)));
+        return true;
+    default:
+        return false;
+    }
+}
+
+// The characters of the keys the dialog took must not reach the control as text.
+bool SwallowChar(const MSG& msg) {
+    const UINT code = DlgCode(msg.hwnd, &msg);
+    if (code & DLGC_WANTALLKEYS)
+        return false;
+    switch (msg.wParam) {
+    case '\t':
+        return !(code & DLGC_WANTTAB);
+    case '\r':
+    case 0x1B:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous) {
+    const std::vector<HWND> children = ChildrenOf(dialog);
+    if (children.empty())
+        return nullptr;
+    const auto isStop = [](HWND h) { return (StyleOf(h) & WS_TABSTOP) && CanTakeFocus(h); };
+    size_t start = previous ? 0 : children.size() - 1; // so that the search begins at an end
+    for (size_t i = 0; i < children.size(); ++i)
+        if (children[i] == control)
+            start = i;
+    return FindAround(children, start, previous != FALSE, isStop);
+}
+
+HWND GetNextDlgGroupItem(HWND dialog, HWND control, BOOL previous) {
+    const std::vector<HWND> children = ChildrenOf(dialog);
+    size_t at = children.size();
+    for (size_t i = 0; i < children.size(); ++i)
+        if (children[i] == control)
+            at = i;
+    if (at == children.size())
+        return nullptr;
+    // The group: back to its WS_GROUP control, forward up to the next one.
+    size_t first = at;
+    while (first > 0 && !(StyleOf(children[first]) & WS_GROUP))
+        --first;
+    size_t end = at + 1;
+    while (end < children.size() && !(StyleOf(children[end]) & WS_GROUP))
+        ++end;
+    const std::vector<HWND> group(children.begin() + std::ptrdiff_t(first),
+                                  children.begin() + std::ptrdiff_t(end));
+    const HWND found = FindAround(group, at - first, previous != FALSE, CanTakeFocus);
+    return found ? found : control;
+}
+
+BOOL IsDialogMessage(HWND dialog, MSG* msg) {
+    if (!dialog || !msg || (msg->hwnd != dialog && !IsChild(dialog, msg->hwnd)))
+        return FALSE;
+    if (msg->message == WM_KEYDOWN && HandleKeyDown(dialog, *msg))
+        return TRUE;
+    if (msg->message == WM_CHAR && SwallowChar(*msg))
+        return TRUE;
+    TranslateMessage(msg);
+    DispatchMessage(msg);
+    return TRUE;
+}
