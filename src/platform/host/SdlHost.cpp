@@ -371,6 +371,12 @@ void SdlHost::Deliver(const SDL_Event& event) {
         if (HWND hwnd = FromSdlId(event.window.windowID))
             DeliverWindowEvent(hwnd, event);
         break;
+    case SDL_DROPTEXT:
+        if (event.drop.file) {
+            InjectDroppedText(Latin1FromUtf8(event.drop.file).c_str());
+            SDL_free(event.drop.file);
+        }
+        break;
     default:
         break;
     }
