@@ -22,8 +22,8 @@ cleanup() {
 trap cleanup EXIT
 export DISPLAY=$display
 
-wait_for() { # a command, polled until it succeeds or ten seconds pass
-    for _ in $(seq 100); do
+wait_for() { # a command, polled until it succeeds or thirty seconds pass
+    for _ in $(seq 300); do
         if "$@" >/dev/null 2>&1; then return 0; fi
         sleep 0.1
     done

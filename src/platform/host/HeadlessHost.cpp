@@ -47,10 +47,6 @@ bool HeadlessHost::WaitForEvents(std::optional<DWORD> deadline) {
     return true;
 }
 
-int HeadlessHost::ShowMessageBox(HWND, const char*, const char*, UINT type) {
-    return DefaultMessageBoxButton(type);
-}
-
 int DefaultMessageBoxButton(UINT type) {
     static constexpr int buttons[][3] = {
         {IDOK, IDOK, IDOK},            // MB_OK

@@ -34,7 +34,6 @@ public:
     std::optional<std::string> GetClipboardText() override { return m_clipboardText; }
 
     void SetCursorShape(HCURSOR) override {}
-    int ShowMessageBox(HWND owner, const char* text, const char* caption, UINT type) override;
 
 private:
     std::map<HWND, std::unique_ptr<Surface>> m_surfaces;

@@ -2,11 +2,11 @@
 
 // Host: where the windows live. The window manager keeps all window state itself and asks the
 // host only for what differs between running headless and running on a display: the pixels
-// of each top-level window, the clock, waiting for input, the system clipboard's text, the
-// cursor shape, and the message box. A host delivers the user's input and what the display
-// did to its windows through platform/window/Input.h, and never calls the window layer to decide
-// what an event means. The headless host is installed unless the application installs
-// another one (the SDL host) at start-up, before it creates a window.
+// of each top-level window, the clock, waiting for input, the system clipboard's text and the
+// cursor shape. A host delivers the user's input and what the display did to its windows
+// through platform/window/Input.h, and never calls the window layer to decide what an event
+// means. The headless host is installed unless the application installs another one (the SDL
+// host) at start-up, before it creates a window.
 
 #include "platform/base/Export.h"
 #include "platform/base/WinTypes.h"
@@ -54,9 +54,6 @@ public:
     virtual std::optional<std::string> GetClipboardText() = 0;
 
     virtual void SetCursorShape(HCURSOR cursor) = 0;
-    // Shows a message box and answers the button chosen; a host that cannot ask anyone
-    // answers the default button.
-    virtual int ShowMessageBox(HWND owner, const char* text, const char* caption, UINT type) = 0;
 };
 
 // The installed host; the headless host until another is installed.

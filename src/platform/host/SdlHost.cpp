@@ -4,7 +4,6 @@
 #include "platform/base/Rect.h"
 #include "platform/gdi/Surface.h"
 #include "platform/host/SdlKeys.h"
-#include "platform/host/SdlMessageBox.h"
 #include "platform/window/Input.h"
 #include "platform/window/WindowStyles.h"
 
@@ -439,11 +438,6 @@ void SdlHost::SetCursorShape(HCURSOR cursor) {
         SDL_SetCursor(made);
         SDL_ShowCursor(SDL_ENABLE);
     }
-}
-
-int SdlHost::ShowMessageBox(HWND owner, const char* text, const char* caption, UINT type) {
-    Window* w = Find(owner);
-    return ShowSdlMessageBox(w && w->shown ? w->window : nullptr, text, caption, type);
 }
 
 bool UseSdlHostIfDisplay() {

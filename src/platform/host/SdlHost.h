@@ -46,7 +46,6 @@ public:
     std::optional<std::string> GetClipboardText() override;
 
     void SetCursorShape(HCURSOR cursor) override;
-    int ShowMessageBox(HWND owner, const char* text, const char* caption, UINT type) override;
 
     // Shows every window marked by Present now.
     void PresentPending();

@@ -343,7 +343,16 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
         w->redraw = wParam != 0;
         return 0;
     case WM_GETMINMAXINFO:
-        // The record comes filled with the defaults of the window's kind.
+        // The window layer sends the record filled with the defaults of the window's kind; a
+        // record sent by hand gets the largest sizes where it has none.
+        if (auto* info = reinterpret_cast<MINMAXINFO*>(lParam)) {
+            if (!info->ptMaxSize.x && !info->ptMaxSize.y)
+                info->ptMaxSize =
+                    POINT{GetSystemMetrics(SM_CXMAXIMIZED), GetSystemMetrics(SM_CYMAXIMIZED)};
+            if (!info->ptMaxTrackSize.x && !info->ptMaxTrackSize.y)
+                info->ptMaxTrackSize =
+                    POINT{GetSystemMetrics(SM_CXMAXTRACK), GetSystemMetrics(SM_CYMAXTRACK)};
+        }
         return 0;
     case WM_SHOWWINDOW:
         if (wParam)

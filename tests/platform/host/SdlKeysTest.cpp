@@ -2,7 +2,6 @@
 #include "platform/base/Messages.h"
 #include "platform/host/HeadlessHost.h"
 #include "platform/host/SdlHost.h"
-#include "platform/host/SdlMessageBox.h"
 
 #include <SDL2/SDL_keycode.h>
 #include <gtest/gtest.h>
@@ -48,34 +47,6 @@ TEST(SdlKeys, TypedTextKeepsWhatLatin1Holds) {
         return s;
     }();
     EXPECT_EQ(Latin1FromUtf8(Utf8FromLatin1(all).c_str()), all);
-}
-
-TEST(SdlMessageBox, EachTypeHasItsButtonsDefaultAndEscape) {
-    struct Case {
-        UINT type;
-        std::vector<int> ids;
-        int defaultId;
-        int escapeId;
-    };
-    const Case cases[] = {
-        {MB_OK, {IDOK}, IDOK, IDOK},
-        {MB_OKCANCEL, {IDOK, IDCANCEL}, IDOK, IDCANCEL},
-        {MB_OKCANCEL | MB_DEFBUTTON2, {IDOK, IDCANCEL}, IDCANCEL, IDCANCEL},
-        {MB_YESNO, {IDYES, IDNO}, IDYES, IDYES},
-        {MB_YESNO | MB_DEFBUTTON2, {IDYES, IDNO}, IDNO, IDNO},
-        {MB_YESNOCANCEL | MB_ICONQUESTION, {IDYES, IDNO, IDCANCEL}, IDYES, IDCANCEL},
-        {MB_RETRYCANCEL, {IDRETRY, IDCANCEL}, IDRETRY, IDCANCEL},
-        {MB_ABORTRETRYIGNORE | MB_DEFBUTTON2, {IDABORT, IDRETRY, IDIGNORE}, IDRETRY, IDRETRY},
-    };
-    for (const Case& c : cases) {
-        const MessageBoxButtons set = MessageBoxButtonsOf(c.type);
-        std::vector<int> ids;
-        for (const MessageBoxButton& button : set.buttons)
-            ids.push_back(button.id);
-        EXPECT_EQ(ids, c.ids) << "type " << c.type;
-        EXPECT_EQ(set.defaultId, c.defaultId) << "type " << c.type;
-        EXPECT_EQ(set.escapeId, c.escapeId) << "type " << c.type;
-    }
 }
 
 TEST(SdlHostSelection, WithoutADisplayTheHeadlessHostStays) {
