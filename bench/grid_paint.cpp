@@ -9,6 +9,7 @@
 #include <cairo.h>
 #include <pango/pangocairo.h>
 
+#include <cstdint>
 #include <cstdio>
 #include <memory>
 
@@ -66,15 +67,31 @@ void BM_GridRepaint(benchmark::State& state) {
 }
 BENCHMARK(BM_GridRepaint)->Unit(benchmark::kMillisecond);
 
-// A first paint: every text is one the drawing has not seen. Each repaint shows the cells of
-// a new generation of numbers, given on request as the baseline prints its own, all of one
-// length that fits the cells; a number comes back only after far more texts than are kept.
-constexpr int kNumbers = 100000;
-int g_generation = 0;
+// A first paint: every text is one the drawing has not seen. Each repaint shows texts of the
+// baseline's shapes ("12.05") with every digit replaced by one of 62 letters and digits drawn
+// from the cell and the repaint's number, so that none comes back while it could be kept.
+constexpr char kAlphabet[] = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+std::uint64_t g_generation = 0;
+
+std::uint64_t Mix(std::uint64_t value) {
+    value += 0x9E3779B97F4A7C15ull;
+    value = (value ^ (value >> 30)) * 0xBF58476D1CE4E5B9ull;
+    value = (value ^ (value >> 27)) * 0x94D049BB133111EBull;
+    return value ^ (value >> 31);
+}
 
 BOOL AnswerNewText(GV_DISPINFO* request, LPARAM) {
-    request->item.text.Format("%05d.%02d", (g_generation * kRows + request->item.row) % kNumbers,
-                              request->item.col);
+    char text[16];
+    std::snprintf(text, sizeof text, "%d.%02d", request->item.row, request->item.col);
+    std::uint64_t bits = Mix(g_generation << 32 | std::uint64_t(request->item.row) << 16 |
+                             std::uint64_t(request->item.col));
+    for (char* c = text; *c != '\0'; ++c) {
+        if (*c != '.') {
+            *c = kAlphabet[bits % (sizeof kAlphabet - 1)];
+            bits /= sizeof kAlphabet - 1;
+        }
+    }
+    request->item.text = text;
     return TRUE;
 }
 

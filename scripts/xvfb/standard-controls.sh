@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Works the standard controls of the gallery on a virtual X display with real X events: types
-# into an edit, ticks a check box, opens a combo box and picks an item from its list, saving a
-# screenshot after each step into the folder given, and checks the pixels it can.
+# into an edit, ticks a check box, opens a combo box and picks an item from its list, drags the
+# size grip, saving a screenshot after each step into the folder given, and checks what it can.
 #
 #   scripts/xvfb/standard-controls.sh <screenshot folder> [path to the gallery]
 set -euo pipefail
@@ -86,6 +86,19 @@ check 04-list-open $((lx + 100)) "$ly" is "srgb(255,255,255)" "the open list sho
 click method-list-row-1
 shot 05-picked
 check 05-picked $((lx + 100)) "$ly" not "srgb(255,255,255)" "the list closed after the pick"
+
+# The size grip drags the dialog's corner out.
+eval "$(xdotool getwindowgeometry --shell "$window")"
+before=$WIDTH
+read -r gx gy < <(place size-grip)
+xdotool mousemove "$gx" "$gy" sleep 0.3 mousedown 1 sleep 0.3
+for step in 1 2 3 4 5 6; do
+    xdotool mousemove $((gx + 10 * step)) $((gy + 7 * step)) sleep 0.3
+done
+xdotool mouseup 1 sleep 0.5
+shot 06-resized
+eval "$(xdotool getwindowgeometry --shell "$window")"
+verdict $((WIDTH == before + 60)) "the size grip widened the dialog by 60 pixels ($before to $WIDTH)"
 
 echo "$failures failure(s); screenshots in $out"
 exit $((failures > 0))

@@ -6,6 +6,7 @@
 #include "chart/ChartPropertyIds.h"
 #include "platform/gdi/Bitmap.h"
 #include "platform/gdi/DC.h"
+#include "platform/gdi/SurfaceDC.h"
 #include "platform/gdi/canvas/Canvas.h"
 #include "platform/host/Clipboard.h"
 #include "platform/host/GlobalMemory.h"

@@ -29,10 +29,12 @@ BOOL CGridCtrl::IsInAutoFillCornor(CPoint point, CCellID cell) {
 }
 
 CString CGridCtrl::NextInSeries(const CString& nearText, const CString& farText) {
-    // The last character is not looked at: "12a" counts as a number.
+    // The last character is not looked at, so "12a" counts as a number; a text of one
+    // character is looked at whole, so that a single letter repeats as text.
     const char* far = farText.GetString();
     const size_t length = std::strlen(far);
-    for (size_t i = 0; i + 1 < length; i++) {
+    const size_t examined = length > 1 ? length - 1 : length;
+    for (size_t i = 0; i < examined; i++) {
         if (std::strchr("0123456789.e-", far[i]) == nullptr) {
             return farText; // text alternates between its last two values
         }

@@ -1,5 +1,6 @@
 #include "grid/GridCell.h"
 
+#include "cells/InPlaceEdit.h"
 #include "grid/GridCtrl.h"
 
 #include <cstring>
@@ -95,13 +96,26 @@ void CGridCell::Reset() {
 }
 
 BOOL CGridCell::Edit(int row, int col, CRect rect, CPoint point, UINT id, UINT ch) {
-    // The in-place editor opens here; without one the cell is not editable in place.
-    return FALSE;
+    if (m_editing) {
+        // Typing on a cell whose editor is open goes to the editor.
+        if (m_editWnd != nullptr) {
+            m_editWnd->SendMessage(WM_CHAR, ch);
+        }
+        return TRUE;
+    }
+    const DWORD format = GetFormat();
+    const DWORD alignment = (format & DT_RIGHT)    ? ES_RIGHT
+                            : (format & DT_CENTER) ? ES_CENTER
+                                                   : ES_LEFT;
+    m_editing = TRUE;
+    // The editor owns itself and goes with its window; the cell only points at it.
+    m_editWnd = new CInPlaceEdit(GetGrid(), rect, alignment, id, row, col, CString(GetText()), ch);
+    return TRUE;
 }
 
 void CGridCell::EndEdit() {
-    if (m_editWnd != nullptr) {
-        m_editWnd->SendMessage(WM_CLOSE);
+    if (m_editWnd != nullptr && m_editWnd->IsKindOf(RUNTIME_CLASS(CInPlaceEdit))) {
+        static_cast<CInPlaceEdit*>(m_editWnd)->EndEdit();
     }
 }
 

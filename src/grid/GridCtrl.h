@@ -203,7 +203,7 @@ public:
     BOOL GetSingleRowSelection() const { return m_singleRowSelection && m_listMode; }
     void SetSingleColSelection(BOOL single = TRUE) { m_singleColSelection = single; }
     BOOL GetSingleColSelection() const { return m_singleColSelection; }
-    void EnableSelection(BOOL enable = TRUE);
+    void EnableSelection(BOOL enable = TRUE) { m_enableSelection = enable; }
     BOOL IsSelectable() const { return m_enableSelection; }
     void SetFixedColumnSelection(BOOL select) { m_fixedColumnSelection = select; }
     BOOL GetFixedColumnSelection() const { return m_fixedColumnSelection; }
@@ -415,6 +415,8 @@ protected:
     void OnChar(UINT key, UINT repeat, UINT flags) override;
     UINT OnGetDlgCode() override;
     void OnDestroy() override;
+    // The font of the grid's cells, which in-place editors take.
+    HFONT OnGetFont() override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     // The end of an in-place edit, from the editor's notification.
@@ -449,7 +451,8 @@ protected:
     // Stamps a record's header with this grid and the code, and sends it to the notify target.
     LRESULT SendNotification(NMHDR& header, UINT code) const;
 
-    BOOL SetCell(int row, int col, CGridCellBase* cell);
+    // Puts a cell in place, the grid owning it; the cell that was there goes.
+    BOOL SetCell(int row, int col, std::unique_ptr<CGridCellBase> cell);
     CCellID GetTopleftNonFixedCell(BOOL forceRecalculation = FALSE);
     BOOL GetCellRangeRect(const CCellRange& cellRange, LPRECT rect);
     void ResetScrollBars();
@@ -484,7 +487,7 @@ protected:
     void FillDown(const CCellID& source);
     void FillCell(int row, int col, const CString& text);
 
-    using GridRow = std::vector<CGridCellBase*>;
+    using GridRow = std::vector<std::unique_ptr<CGridCellBase>>;
     using CellMap = std::map<DWORD, CCellID>;
 
     static DWORD SelectionKey(int row, int col) { return DWORD(col) << 16 | DWORD(row & 0xFFFF); }
@@ -493,7 +496,10 @@ protected:
     UINT& HeightAt(int row);
     UINT& WidthAt(int col);
     void ClearSelectionAndFocus();
-    void DiscardRowsBeyondCount();
+    // The cached top-left cell in view is worked out again when next asked for.
+    void ForgetTopLeftCell() { m_topLeftCell.col = -1; }
+    // A row of cells made by CreateCell for `row`, whole, before it joins the store.
+    std::unique_ptr<GridRow> MakeRow(int row);
     void ReadWheelScrollLines();
     // The origin of a cell in a walk over the sizes; false for a cell scrolled out of view.
     BOOL CellOrigin(int row, int col, CPoint& origin);
@@ -510,7 +516,7 @@ protected:
     // Store.
     std::vector<UINT> m_rowHeights;
     std::vector<UINT> m_colWidths;
-    std::vector<GridRow*> m_rowData;
+    std::vector<std::unique_ptr<GridRow>> m_rowData;
     int m_rowCount = 0;
     int m_colCount = 0;
     int m_fixedRowCount = 0;

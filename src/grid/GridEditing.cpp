@@ -3,6 +3,8 @@
 
 #include "grid/GridCtrl.h"
 
+#include "platform/gdi/Font.h"
+
 void CGridCtrl::ValidateAndModifyCellContents(int row, int col, LPCTSTR text) {
     if (SendMessageToParent(row, col, GV_NOTIFY_BEGINLABELEDIT) < 0) {
         return;
@@ -43,6 +45,11 @@ void CGridCtrl::OnEditCell(int row, int col, CPoint point, UINT ch) {
     if (CGridCellBase* cell = GetCell(row, col)) {
         cell->Edit(row, col, rect, point, IDC_INPLACE_CONTROL, ch);
     }
+}
+
+HFONT CGridCtrl::OnGetFont() {
+    CFont* font = m_cellDefault.GetFontObject();
+    return font != nullptr ? HFONT(font->GetSafeHandle()) : nullptr;
 }
 
 BOOL CGridCtrl::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {

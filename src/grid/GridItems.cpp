@@ -3,6 +3,7 @@
 #include "grid/GridCtrl.h"
 
 #include <cstdarg>
+#include <memory>
 
 CGridDefaultCell* CGridCtrl::GetDefaultCell(BOOL fixedRow, BOOL fixedCol) const {
     const CGridDefaultCell* chosen = &m_cellDefault;
@@ -49,8 +50,8 @@ void CGridCtrl::SetDefCellWidth(int width) {
     }
 }
 
-BOOL CGridCtrl::SetCell(int row, int col, CGridCellBase* cell) {
-    if (m_virtualMode || !IsValid(row, col)) {
+BOOL CGridCtrl::SetCell(int row, int col, std::unique_ptr<CGridCellBase> cell) {
+    if (m_virtualMode || !IsValid(row, col) || cell == nullptr) {
         return FALSE;
     }
     GridRow* cells = RowAt(row);
@@ -58,7 +59,7 @@ BOOL CGridCtrl::SetCell(int row, int col, CGridCellBase* cell) {
         return FALSE;
     }
     cell->SetCoords(row, col);
-    (*cells)[size_t(col)] = cell;
+    (*cells)[size_t(col)] = std::move(cell);
     return TRUE;
 }
 
@@ -99,7 +100,7 @@ void CGridCtrl::DestroyCell(int row, int col) {
         return;
     }
     cell->SetState(0);
-    delete cell;
+    (*RowAt(row))[size_t(col)].reset();
 }
 
 BOOL CGridCtrl::SetCellType(int row, int col, CRuntimeClass* cellClass) {
@@ -107,20 +108,14 @@ BOOL CGridCtrl::SetCellType(int row, int col, CRuntimeClass* cellClass) {
         !cellClass->IsDerivedFrom(RUNTIME_CLASS(CGridCellBase))) {
         return FALSE;
     }
-    auto* made = static_cast<CGridCellBase*>(cellClass->CreateObject());
+    std::unique_ptr<CGridCellBase> made(static_cast<CGridCellBase*>(cellClass->CreateObject()));
     if (made == nullptr) {
         return FALSE;
     }
-    CGridCellBase* old = GetCell(row, col);
-    if (old != nullptr) {
+    if (CGridCellBase* old = GetCell(row, col)) {
         *made = *old;
     }
-    if (!SetCell(row, col, made)) {
-        delete made;
-        return FALSE;
-    }
-    delete old;
-    return TRUE;
+    return SetCell(row, col, std::move(made));
 }
 
 BOOL CGridCtrl::SetDefaultCellType(CRuntimeClass* cellClass) {

@@ -171,12 +171,6 @@ void CGridCtrl::ResetSelectedRange() {
     SetFocusCell(-1, -1);
 }
 
-void CGridCtrl::EnableSelection(BOOL enable) {
-    ResetSelectedRange();
-    m_enableSelection = enable;
-    ResetSelectedRange();
-}
-
 void CGridCtrl::SetListMode(BOOL enableListMode) {
     ResetSelectedRange();
     SetSortColumn(-1);

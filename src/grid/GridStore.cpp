@@ -4,6 +4,7 @@
 
 #include "platform/base/Exceptions.h"
 
+#include <algorithm>
 #include <memory>
 #include <new>
 
@@ -11,7 +12,7 @@ CGridCtrl::GridRow* CGridCtrl::RowAt(int row) const {
     if (row < 0 || size_t(row) >= m_rowData.size()) {
         AfxThrowInvalidArgException();
     }
-    return m_rowData[size_t(row)];
+    return m_rowData[size_t(row)].get();
 }
 
 UINT& CGridCtrl::HeightAt(int row) {
@@ -42,6 +43,14 @@ void CGridCtrl::ClearSelectionAndFocus() {
     SetFocusCell(-1, -1);
 }
 
+std::unique_ptr<CGridCtrl::GridRow> CGridCtrl::MakeRow(int row) {
+    auto cells = std::make_unique<GridRow>(size_t(m_colCount));
+    for (int col = 0; col < m_colCount; col++) {
+        (*cells)[size_t(col)].reset(CreateCell(row, col));
+    }
+    return cells;
+}
+
 BOOL CGridCtrl::SetRowCount(int rows) {
     if (rows == m_rowCount) {
         return TRUE;
@@ -49,7 +58,7 @@ BOOL CGridCtrl::SetRowCount(int rows) {
     if (rows < 0) {
         return FALSE;
     }
-    m_topLeftCell.col = -1;
+    ForgetTopLeftCell();
     if (rows < m_fixedRowCount) {
         m_fixedRowCount = rows;
     }
@@ -62,54 +71,33 @@ BOOL CGridCtrl::SetRowCount(int rows) {
                 for (int col = 0; col < m_colCount; col++) {
                     DestroyCell(row, col);
                 }
-                delete RowAt(row);
-                m_rowData[size_t(row)] = nullptr;
             }
+            m_rowData.resize(size_t(rows));
         }
         m_rowCount = rows;
     }
+    // Each row is made whole and then joins the store, so a failed allocation leaves only the
+    // rows made before it, all complete.
     const bool made = Allocating([this, rows] {
         const UINT height = UINT(m_cellDefault.GetHeight());
-        m_rowHeights.resize(size_t(rows), height);
-        if (m_virtualMode) {
-            m_rowCount = rows;
-            return;
-        }
-        m_rowData.resize(size_t(rows), nullptr);
-        // The count grows row by row, so that CreateCell sees the rows made before.
+        m_rowHeights.reserve(size_t(rows));
+        m_rowData.reserve(m_virtualMode ? 0 : size_t(rows));
         for (int row = m_rowCount; row < rows; row++) {
-            m_rowHeights[size_t(row)] = height;
-            m_rowData[size_t(row)] = new GridRow(size_t(m_colCount), nullptr);
-            for (int col = 0; col < m_colCount; col++) {
-                (*m_rowData[size_t(row)])[size_t(col)] = CreateCell(row, col);
+            if (!m_virtualMode) {
+                m_rowData.push_back(MakeRow(row));
             }
+            m_rowHeights.push_back(height);
             m_rowCount++;
         }
     });
+    m_rowHeights.resize(size_t(m_rowCount));
     if (!made) {
-        DiscardRowsBeyondCount();
         return FALSE;
     }
     SetModified(TRUE, -1, -1);
     ResetScrollBars();
     Refresh();
     return TRUE;
-}
-
-// After a failed allocation: the row being made, if any, goes, and the arrays match the count.
-void CGridCtrl::DiscardRowsBeyondCount() {
-    for (size_t row = size_t(m_rowCount); row < m_rowData.size(); row++) {
-        if (GridRow* cells = m_rowData[row]) {
-            for (CGridCellBase* made : *cells) {
-                delete made;
-            }
-            delete cells;
-        }
-    }
-    if (!m_virtualMode) {
-        m_rowData.resize(size_t(m_rowCount));
-    }
-    m_rowHeights.resize(size_t(m_rowCount));
 }
 
 BOOL CGridCtrl::SetColumnCount(int cols) {
@@ -119,7 +107,7 @@ BOOL CGridCtrl::SetColumnCount(int cols) {
     if (cols < 0) {
         return FALSE;
     }
-    m_topLeftCell.col = -1;
+    ForgetTopLeftCell();
     if (cols < m_fixedColCount) {
         m_fixedColCount = cols;
     }
@@ -141,21 +129,16 @@ BOOL CGridCtrl::SetColumnCount(int cols) {
         }
         for (int row = 0; row < m_rowCount; row++) {
             GridRow* cells = RowAt(row);
-            cells->resize(size_t(cols), nullptr);
+            cells->resize(size_t(cols));
             for (int col = oldCount; col < cols; col++) {
-                (*cells)[size_t(col)] = CreateCell(row, col);
+                (*cells)[size_t(col)].reset(CreateCell(row, col));
             }
         }
     });
     if (!made) {
-        // Only growth allocates: go back to the old shape.
-        for (GridRow* cells : m_rowData) {
-            for (size_t col = size_t(oldCount); cells != nullptr && col < cells->size(); col++) {
-                delete (*cells)[col];
-            }
-            if (cells != nullptr && cells->size() > size_t(oldCount)) {
-                cells->resize(size_t(oldCount));
-            }
+        // Only growth allocates: every row goes back to the old shape.
+        for (const std::unique_ptr<GridRow>& cells : m_rowData) {
+            cells->resize(std::min(cells->size(), size_t(oldCount)));
         }
         m_colWidths.resize(size_t(oldCount));
         return FALSE;
@@ -175,7 +158,7 @@ BOOL CGridCtrl::SetFixedRowCount(int fixedRows) {
         return FALSE;
     }
     ClearSelectionAndFocus();
-    m_topLeftCell.col = -1;
+    ForgetTopLeftCell();
     if (fixedRows > m_rowCount && !SetRowCount(fixedRows)) {
         return FALSE;
     }
@@ -224,7 +207,7 @@ BOOL CGridCtrl::SetFixedColumnCount(int fixedCols) {
         SetFocusCell(-1, -1);
     }
     ClearSelectionAndFocus();
-    m_topLeftCell.col = -1;
+    ForgetTopLeftCell();
     if (!m_virtualMode) {
         for (int row = 0; row < m_rowCount; row++) {
             for (int col = m_fixedColCount; col < fixedCols; col++) {
@@ -263,7 +246,7 @@ int CGridCtrl::InsertColumn(LPCTSTR heading, UINT format, int column) {
     if (column >= 0 && (column < m_fixedColCount || column > m_colCount)) {
         return -1;
     }
-    m_topLeftCell.col = -1;
+    ForgetTopLeftCell();
     ClearSelectionAndFocus();
     if (m_rowCount == 0 && !SetRowCount(1)) {
         return -1;
@@ -274,31 +257,18 @@ int CGridCtrl::InsertColumn(LPCTSTR heading, UINT format, int column) {
     if (column < 0) {
         column = m_colCount;
     }
-    int rowsDone = 0;
-    bool rowMissing = false;
     const bool made = Allocating([&] {
         m_colWidths.insert(m_colWidths.begin() + column, 0);
-        if (m_virtualMode) {
-            return;
-        }
-        for (; rowsDone < m_rowCount; rowsDone++) {
-            GridRow* cells = RowAt(rowsDone);
-            if (cells == nullptr) {
-                rowMissing = true;
-                return;
-            }
-            cells->insert(cells->begin() + column, nullptr);
-            (*cells)[size_t(column)] = CreateCell(rowsDone, column);
+        for (int row = 0; row < m_rowCount && !m_virtualMode; row++) {
+            GridRow* cells = RowAt(row);
+            cells->insert(cells->begin() + column,
+                          std::unique_ptr<CGridCellBase>(CreateCell(row, column)));
         }
     });
-    if (rowMissing) {
-        return -1;
-    }
     if (!made) {
-        for (int row = 0; row <= rowsDone && row < m_rowCount; row++) {
-            GridRow* cells = RowAt(row);
+        // The rows that took the new cell give it back.
+        for (const std::unique_ptr<GridRow>& cells : m_rowData) {
             if (cells->size() > size_t(m_colCount)) {
-                delete (*cells)[size_t(column)];
                 cells->erase(cells->begin() + column);
             }
         }
@@ -331,7 +301,7 @@ int CGridCtrl::InsertRow(LPCTSTR heading, int row) {
     if (row >= 0 && (row < m_fixedRowCount || row >= m_rowCount)) {
         return -1;
     }
-    m_topLeftCell.col = -1;
+    ForgetTopLeftCell();
     ClearSelectionAndFocus();
     if (m_colCount == 0 && !SetColumnCount(1)) {
         return -1;
@@ -339,38 +309,18 @@ int CGridCtrl::InsertRow(LPCTSTR heading, int row) {
     if (row < 0) {
         row = m_rowCount;
     }
-    bool heightInserted = false;
-    GridRow* cells = nullptr;
-    bool counted = false;
+    // The row is made whole first; room is made before it joins, so joining cannot fail.
     const bool made = Allocating([&] {
+        std::unique_ptr<GridRow> cells = m_virtualMode ? nullptr : MakeRow(row);
+        m_rowHeights.reserve(m_rowHeights.size() + 1);
+        m_rowData.reserve(m_rowData.size() + 1);
         m_rowHeights.insert(m_rowHeights.begin() + row, 0);
-        heightInserted = true;
-        if (!m_virtualMode) {
-            auto newRow = std::make_unique<GridRow>(size_t(m_colCount), nullptr);
-            m_rowData.insert(m_rowData.begin() + row, newRow.get());
-            cells = newRow.release();
+        if (cells != nullptr) {
+            m_rowData.insert(m_rowData.begin() + row, std::move(cells));
         }
         m_rowCount++;
-        counted = true;
-        // Cells are made once the row counts, so that CreateCell sees it.
-        for (int col = 0; cells != nullptr && col < m_colCount; col++) {
-            (*cells)[size_t(col)] = CreateCell(row, col);
-        }
     });
     if (!made) {
-        if (cells != nullptr) {
-            for (CGridCellBase* cell : *cells) {
-                delete cell;
-            }
-            delete cells;
-            m_rowData.erase(m_rowData.begin() + row);
-        }
-        if (counted) {
-            m_rowCount--;
-        }
-        if (heightInserted) {
-            m_rowHeights.erase(m_rowHeights.begin() + row);
-        }
         return -1;
     }
     if (!m_virtualMode) {
@@ -400,11 +350,8 @@ BOOL CGridCtrl::DeleteColumn(int column) {
     ClearSelectionAndFocus();
     if (!m_virtualMode) {
         for (int row = 0; row < m_rowCount; row++) {
-            GridRow* cells = RowAt(row);
-            if (cells == nullptr) {
-                return FALSE;
-            }
             DestroyCell(row, column);
+            GridRow* cells = RowAt(row);
             cells->erase(cells->begin() + column);
         }
     }
@@ -431,14 +378,9 @@ BOOL CGridCtrl::DeleteRow(int row) {
     // Only rows announce their deletion as a selection change; columns go silently.
     SendMessageToParent(-1, -1, GV_NOTIFY_SELCHANGED);
     if (!m_virtualMode) {
-        GridRow* cells = RowAt(row);
-        if (cells == nullptr) {
-            return FALSE;
-        }
         for (int col = 0; col < m_colCount; col++) {
             DestroyCell(row, col);
         }
-        delete cells;
         m_rowData.erase(m_rowData.begin() + row);
     }
     m_rowHeights.erase(m_rowHeights.begin() + row);
@@ -481,7 +423,6 @@ BOOL CGridCtrl::DeleteAllItems() {
             for (int col = 0; col < m_colCount; col++) {
                 DestroyCell(row, col);
             }
-            delete RowAt(row);
         }
         m_rowData.clear();
     }

@@ -9,7 +9,7 @@ CGridCellBase* CGridCtrl::GetCell(int row, int col) const {
     }
     if (!m_virtualMode) {
         GridRow* cells = RowAt(row);
-        return cells != nullptr ? (*cells)[size_t(col)] : nullptr;
+        return cells != nullptr ? (*cells)[size_t(col)].get() : nullptr;
     }
 
     const bool fixedRow = row < m_fixedRowCount;

@@ -51,15 +51,27 @@ void RegisterTemplate() {
     RegisterDialogTemplate(kTemplateId, dialog);
 }
 
+// The page's dialog with its pickers. It deletes itself when its window ends, as the gallery
+// ends every window before it exits: a static dialog would outlive the drawing objects' table.
+class DatesDialog : public CDialog {
+public:
+    DatesDialog() : CDialog(kTemplateId) {}
+    std::array<CDateTimeCtrl, kRows.size()> pickers;
+
+protected:
+    void PostNcDestroy() override { delete this; }
+};
+
 void BuildDateTimePage(GalleryContext& context) {
     RegisterTemplate();
-    static CDialog dialog(kTemplateId);
+    auto* page = new DatesDialog; // deletes itself with its window
+    CDialog& dialog = *page;
     if (!dialog.Create(kTemplateId)) {
         context.Print("the dialog could not be made");
         return;
     }
     dialog.SetWindowPos(nullptr, 60, 60, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    static std::array<CDateTimeCtrl, kRows.size()> pickers;
+    auto& pickers = page->pickers;
     for (size_t i = 0; i < kRows.size(); ++i) {
         CDateTimeCtrl& picker = pickers[i];
         picker.SubclassDlgItem(kFirstPickerId + UINT(i), &dialog);

@@ -5,8 +5,6 @@
 
 #include "GalleryPage.h"
 
-#include "platform/gdi/DC.h"
-#include "platform/system/SysColors.h"
 #include "platform/widgets/Button.h"
 #include "platform/widgets/ComboBox.h"
 #include "platform/widgets/Edit.h"
@@ -34,7 +32,7 @@ enum : UINT {
 
 DialogTemplate ControlsTemplate() {
     constexpr DWORD visible = WS_VISIBLE | WS_TABSTOP;
-    DialogTemplate t{"Standard controls", {330, 214}, {}};
+    DialogTemplate t{"Standard controls", {330, 196}, {}};
     auto add = [&](const char* cls, const char* text, UINT id, DWORD style, RECT r) {
         t.items.push_back({cls, text, id, style | WS_VISIBLE, r});
     };
@@ -115,25 +113,12 @@ void PrintPlaces(GalleryContext& context, CDialog& dialog) {
     print("method-arrow", CPoint(method.right - 8, method.CenterPoint().y));
     const int row = int(dialog.GetDlgItem(kMethod)->SendMessage(CB_GETITEMHEIGHT, 0));
     print("method-list-row-1", CPoint(method.left + 20, method.bottom + 1 + row + row / 2));
+    print("size-grip", rectOf(kGrip).CenterPoint());
 }
-
-// Dialogs stand on the button face colour, as the controls do.
-class ControlsDialog : public CDialog {
-public:
-    ControlsDialog() : CDialog(kDialogId) {}
-
-protected:
-    BOOL OnEraseBkgnd(CDC* dc) override {
-        CRect client;
-        GetClientRect(&client);
-        dc->FillSolidRect(&client, GetSysColor(COLOR_3DFACE));
-        return TRUE;
-    }
-};
 
 void BuildStandardControlsPage(GalleryContext& context) {
     RegisterDialogTemplate(kDialogId, ControlsTemplate());
-    static ControlsDialog controls;
+    static CDialog controls(kDialogId);
     if (!controls.Create(kDialogId)) {
         context.Print("standard controls: the dialog could not be made");
         return;
@@ -142,7 +127,7 @@ void BuildStandardControlsPage(GalleryContext& context) {
     Fill(controls);
     context.Capture(controls.m_hWnd, "30-standard-controls");
 
-    static ControlsDialog dropped;
+    static CDialog dropped(kDialogId);
     if (!dropped.Create(kDialogId))
         return;
     dropped.SetWindowPos(nullptr, 640, 40, 0, 0, SWP_NOSIZE | SWP_NOZORDER);

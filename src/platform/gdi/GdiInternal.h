@@ -4,6 +4,7 @@
 // Everything here runs on the user-interface thread only; the handle tables are not locked.
 
 #include "platform/gdi/DC.h"
+#include "platform/gdi/SurfaceDC.h"
 
 #include <cairo.h>
 #include <pango/pangocairo.h>

@@ -141,8 +141,14 @@ ShapedText TextLayoutCache::Shape(FontObject* font, std::string_view text) {
     }
     MakeKey(font, text);
     if (const auto found = m_index.find(m_key); found != m_index.end()) {
+        Entry& entry = *found->second;
         m_entries.splice(m_entries.begin(), m_entries, found->second);
-        return found->second->shaped;
+        // A text seen once is drawn by Pango; its glyphs are taken when it comes back.
+        if (!entry.glyphsTaken) {
+            entry.glyphsTaken = true;
+            entry.shaped.glyphs = entry.runs.Take(entry.shaped.layout) ? &entry.runs : nullptr;
+        }
+        return entry.shaped;
     }
     PangoLayout* layout = nullptr;
     if (m_entries.size() < kCapacity) {
@@ -157,7 +163,8 @@ ShapedText TextLayoutCache::Shape(FontObject* font, std::string_view text) {
     Entry& entry = m_entries.front();
     entry.key = m_key;
     Configure(layout, font, text);
-    entry.shaped = {layout, LogicalWidth(layout), entry.runs.Take(layout) ? &entry.runs : nullptr};
+    entry.shaped = {layout, LogicalWidth(layout), nullptr};
+    entry.glyphsTaken = false;
     m_index.emplace(entry.key, m_entries.begin());
     return entry.shaped;
 }

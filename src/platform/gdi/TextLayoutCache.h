@@ -70,6 +70,7 @@ private:
         std::string key; // the font's number, then the text
         ShapedText shaped;
         GlyphRuns runs;
+        bool glyphsTaken = false;
     };
     // What of a font changes the layout: the description Pango shapes with, and the lines
     // drawn with the text.

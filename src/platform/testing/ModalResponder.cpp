@@ -3,20 +3,11 @@
 
 #include "platform/testing/ModalResponder.h"
 
+#include "platform/widgets/DateTimeCtrl.h"
+
 #include <algorithm>
 
 namespace {
-
-// The date picker's message and notification (DTM_SETSYSTEMTIME, DTN_DATETIMECHANGE, GDT_VALID)
-// and the record that the notification carries.
-constexpr UINT kPickerSetTime = 0x1002;
-constexpr UINT kPickerDateChanged = UINT(-759);
-constexpr WPARAM kPickerTimeValid = 0;
-struct PickerDateChange {
-    NMHDR hdr;
-    DWORD flags;
-    SYSTEMTIME time;
-};
 
 std::string TextOfWindow(HWND hwnd) {
     std::string text(size_t(GetWindowTextLength(hwnd)) + 1, '\0');
@@ -137,11 +128,11 @@ ModalAnswer& ModalAnswer::SetDate(int pickerId, const SYSTEMTIME& date) {
     m_steps.push_back([pickerId, date](CDialog& dialog, UiDriver& driver, ShownDialog& shown) {
         const HWND picker = GetDlgItem(dialog.GetSafeHwnd(), pickerId);
         SYSTEMTIME time = date;
-        if (!picker || !SendMessage(picker, kPickerSetTime, kPickerTimeValid, LPARAM(&time))) {
+        if (!picker || !SendMessage(picker, DTM_SETSYSTEMTIME, GDT_VALID, LPARAM(&time))) {
             shown.problems.push_back("no date picker " + std::to_string(pickerId));
             return;
         }
-        PickerDateChange change{{picker, UINT_PTR(pickerId), kPickerDateChanged}, 0, date};
+        NMDATETIMECHANGE change{{picker, UINT_PTR(pickerId), DTN_DATETIMECHANGE}, GDT_VALID, date};
         SendMessage(GetParent(picker), WM_NOTIFY, WPARAM(pickerId), LPARAM(&change));
         driver.Pump();
     });

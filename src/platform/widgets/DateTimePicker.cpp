@@ -2,7 +2,7 @@
 // the keys and the mouse, the drop-down calendar, the DTM_ messages, and the window class.
 //
 // Sections: the format and its layout; painting; editing the fields; the drop-down calendar;
-// the DTM_ messages; the window procedure and its class.
+// the DTM_ messages; the window class.
 
 #include "platform/widgets/DateTimePicker.h"
 
@@ -14,12 +14,12 @@
 #include "platform/widgets/MonthCalCtrl.h"
 
 #include <algorithm>
-#include <map>
-#include <memory>
+#include <cctype>
 #include <utility>
 
 namespace {
 
+constexpr DWORD kFormatBits = 0x000C;
 constexpr int kCheckBoxSize = 13;
 constexpr int kTextIndent = 2;
 constexpr int kLowestYear = 100;
@@ -76,17 +76,22 @@ DateTimePicker::DateTimePicker(HWND hwnd) : ControlBehaviour(hwnd) {
 std::string DateTimePicker::Picture() const {
     if (m_format)
         return *m_format;
-    if ((Style() & DTS_TIMEFORMAT) == DTS_TIMEFORMAT)
+    // Two bits choose the format; DTS_TIMEFORMAT carries DTS_UPDOWN with its own.
+    switch (Style() & kFormatBits) {
+    case DTS_TIMEFORMAT& kFormatBits:
         return RegionalSetting("sTimeFormat", "h:mm:ss tt").GetString();
-    if ((Style() & DTS_SHORTDATECENTURYFORMAT) == DTS_SHORTDATECENTURYFORMAT) {
+    case DTS_LONGDATEFORMAT:
+        return RegionalSetting("sLongDate", "dddd, MMMM d, yyyy").GetString();
+    case DTS_SHORTDATECENTURYFORMAT: {
         std::string picture = RegionalSetting("sShortDate", "M/d/yyyy").GetString();
         if (picture.find("yyyy") == std::string::npos)
             if (const auto yy = picture.find("yy"); yy != std::string::npos)
                 picture.replace(yy, 2, "yyyy");
         return picture;
     }
-    if (Style() & DTS_LONGDATEFORMAT)
-        return RegionalSetting("sLongDate", "dddd, MMMM d, yyyy").GetString();
+    default:
+        break;
+    }
     return RegionalSetting("sShortDate", "M/d/yyyy").GetString();
 }
 
@@ -226,7 +231,7 @@ SYSTEMTIME DateTimePicker::Clamped(SYSTEMTIME time) const {
 
 void DateTimePicker::Change(const SYSTEMTIME& time) {
     const SYSTEMTIME next = Clamped(Normalized(time));
-    if (Compare(next, m_time) == 0 && next.wSecond == m_time.wSecond)
+    if (Compare(next, m_time) == 0)
         return;
     m_time = next;
     InvalidateRect(Window(), nullptr, TRUE);
@@ -561,7 +566,7 @@ LRESULT DateTimePicker::GetRange(SYSTEMTIME* range) const {
     return which;
 }
 
-// The window procedure and its class.
+// The messages and the window class.
 
 LRESULT DateTimePicker::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {

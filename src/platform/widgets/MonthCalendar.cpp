@@ -1,8 +1,8 @@
-// The month calendar's window procedure: its state for each window, the layout of one month,
-// painting in the classic look, and the mouse and keys.
+// The month calendar's behaviour behind its window class: the layout of one month, painting in
+// the classic look, and the mouse and keys.
 //
-// Sections: layout; the calendar's state and behaviour; painting; the window procedure and
-// its class.
+// Sections: layout; the calendar's state and behaviour; painting; the messages and the window
+// class.
 
 #include "platform/widgets/MonthCalCtrl.h"
 
@@ -15,8 +15,6 @@
 #include "platform/widgets/ControlWindow.h"
 
 #include <algorithm>
-#include <map>
-#include <memory>
 #include <optional>
 
 namespace {
@@ -343,7 +341,7 @@ void MonthCalendar::Paint() {
     EndPaint(Window(), &ps);
 }
 
-// The window procedure and its class.
+// The messages and the window class.
 
 LRESULT MonthCalendar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {

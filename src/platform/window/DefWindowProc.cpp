@@ -3,11 +3,13 @@
 #include "platform/window/MenuTracker.h"
 #include "platform/window/NonClient.h"
 #include "platform/window/ScrollBarTracking.h"
+#include "platform/window/WindowIcons.h"
 #include "platform/window/WindowRecord.h"
 
 #include "platform/gdi/DC.h"
 #include "platform/host/Host.h"
 #include "platform/system/SysColors.h"
+#include "platform/system/SystemMetrics.h"
 
 #include <algorithm>
 #include <cctype>
@@ -15,6 +17,55 @@
 
 namespace {
 using namespace wm;
+
+// The sizing border of a resizable window under a window point, or 0; the corners reach
+// along the edges as far as a caption is high.
+int SizingEdge(const WindowRecord& w, const FrameMetrics& m, CPoint p) {
+    if (!(w.style & WS_THICKFRAME) || (w.style & WS_MAXIMIZE) || m.border <= 0)
+        return 0;
+    const CSize size = w.rect.Size();
+    const int corner = m.border + GetSystemMetrics(SM_CYCAPTION);
+    const bool left = p.x < m.border, right = p.x >= size.cx - m.border;
+    const bool top = p.y < m.border, bottom = p.y >= size.cy - m.border;
+    const bool nearLeft = p.x < corner, nearRight = p.x >= size.cx - corner;
+    const bool nearTop = p.y < corner, nearBottom = p.y >= size.cy - corner;
+    if ((top && nearLeft) || (left && nearTop))
+        return HTTOPLEFT;
+    if ((top && nearRight) || (right && nearTop))
+        return HTTOPRIGHT;
+    if ((bottom && nearLeft) || (left && nearBottom))
+        return HTBOTTOMLEFT;
+    if ((bottom && nearRight) || (right && nearBottom))
+        return HTBOTTOMRIGHT;
+    if (left)
+        return HTLEFT;
+    if (right)
+        return HTRIGHT;
+    if (top)
+        return HTTOP;
+    if (bottom)
+        return HTBOTTOM;
+    return 0;
+}
+
+LPCSTR SizingCursor(int hit) {
+    switch (hit) {
+    case HTLEFT:
+    case HTRIGHT:
+        return IDC_SIZEWE;
+    case HTTOP:
+    case HTBOTTOM:
+        return IDC_SIZENS;
+    case HTTOPLEFT:
+    case HTBOTTOMRIGHT:
+        return IDC_SIZENWSE;
+    case HTTOPRIGHT:
+    case HTBOTTOMLEFT:
+        return IDC_SIZENESW;
+    default:
+        return IDC_ARROW;
+    }
+}
 
 LRESULT HitTest(const WindowRecord& w, CPoint screen) {
     const CPoint p = screen - WindowOrigin(w);
@@ -28,6 +79,8 @@ LRESULT HitTest(const WindowRecord& w, CPoint screen) {
     if (bar == SB_HORZ)
         return HTHSCROLL;
     const FrameMetrics m = GetFrameMetrics(w);
+    if (const int edge = SizingEdge(w, m, p))
+        return edge;
     if (MenuBarInWindow(w).PtInRect(p))
         return HTMENU;
     const CaptionButtons buttons = GetCaptionButtons(w);
@@ -143,6 +196,19 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
         if (LOWORD(std::uintptr_t(lParam)))
             InvalidateRect(hwnd, nullptr, TRUE);
         return 0;
+    case WM_SETICON: {
+        HICON& slot = wParam == ICON_BIG ? w->bigIcon : w->smallIcon;
+        const HICON previous = slot;
+        slot = reinterpret_cast<HICON>(lParam);
+        if (IsTopLevel(*w) && (wParam == ICON_BIG || !w->bigIcon))
+            if (const IconPixels* pixels = GetIconPixels(slot))
+                GetHost().SetWindowIcon(hwnd, pixels->size, pixels->argb);
+        if ((w->style & WS_CAPTION) == WS_CAPTION)
+            InvalidateFrame(*w);
+        return reinterpret_cast<LRESULT>(previous);
+    }
+    case WM_GETICON:
+        return reinterpret_cast<LRESULT>(wParam == ICON_BIG ? w->bigIcon : w->smallIcon);
     case WM_GETFONT:
         return reinterpret_cast<LRESULT>(w->font);
     case WM_ERASEBKGND: {
@@ -165,6 +231,13 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
         ReleaseDC(hwnd, dc);
         return 0;
     }
+    case WM_NCCALCSIZE:
+        // The frame, caption, menu bar, edges and scroll bars come off the window's rectangle.
+        if (auto* rect = reinterpret_cast<RECT*>(lParam)) {
+            const CRect client = DefaultClientInWindow(*w) + CRect(*rect).TopLeft();
+            *rect = client;
+        }
+        return 0;
     case WM_NCHITTEST:
         return HitTest(*w, CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
     case WM_NCLBUTTONDOWN:
@@ -183,6 +256,11 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
                          false);
             return 0;
         }
+        if ((wParam >= WPARAM(HTLEFT) && wParam <= WPARAM(HTBOTTOMRIGHT)) ||
+            (wParam == HTCAPTION && !(w->style & WS_MAXIMIZE))) {
+            BeginSizeMove(hwnd, int(wParam), CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
+            return 0;
+        }
         if (wParam == HTVSCROLL || wParam == HTHSCROLL)
             BeginScrollBarTracking(hwnd, wParam == HTVSCROLL ? SB_VERT : SB_HORZ,
                                    CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
@@ -199,7 +277,7 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
             SetCursor(cursor);
             return TRUE;
         }
-        SetCursor(LoadCursor(nullptr, IDC_ARROW));
+        SetCursor(LoadCursor(nullptr, SizingCursor(short(LOWORD(std::uintptr_t(lParam))))));
         return FALSE;
     case WM_RBUTTONUP: {
         // Releasing the right button asks for the context menu, at the cursor's screen point.
@@ -264,14 +342,13 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETREDRAW:
         w->redraw = wParam != 0;
         return 0;
-    case WM_GETMINMAXINFO: {
-        if (auto* info = reinterpret_cast<MINMAXINFO*>(lParam)) {
-            info->ptMaxSize = POINT{1920, 1080};
-            info->ptMaxTrackSize = POINT{1920, 1080};
-            info->ptMinTrackSize = POINT{0, 0};
-        }
+    case WM_GETMINMAXINFO:
+        // The record comes filled with the defaults of the window's kind.
         return 0;
-    }
+    case WM_SHOWWINDOW:
+        if (wParam)
+            ShareSizeLimits(hwnd);
+        return 0;
     default:
         return 0;
     }

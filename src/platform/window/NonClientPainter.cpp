@@ -5,6 +5,7 @@
 #include "platform/window/MenuTracker.h"
 #include "platform/window/NonClient.h"
 #include "platform/window/ScrollBarTracking.h"
+#include "platform/window/WindowIcons.h"
 
 #include "platform/gdi/DC.h"
 #include "platform/system/SysColors.h"
@@ -89,6 +90,13 @@ void DrawCaption(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& r
     dc.SetTextColor(GetSysColor(active ? COLOR_CAPTIONTEXT : COLOR_INACTIVECAPTIONTEXT));
     CRect text = bar;
     text.DeflateRect(4, 0);
+    // The small icon, or the big one made small, at the caption's left.
+    if (const HICON icon = w.smallIcon ? w.smallIcon : w.bigIcon) {
+        const int size = GetSystemMetrics(SM_CXSMICON);
+        DrawIconEx(dc.GetSafeHdc(), bar.left + 2, bar.top + (bar.Height() - size) / 2, icon, size,
+                   size, 0, nullptr, DI_NORMAL);
+        text.left = bar.left + size + 4;
+    }
     const CaptionButtons buttons = GetCaptionButtons(w);
     for (const CRect& button : {buttons.close, buttons.maximize, buttons.minimize})
         if (!button.IsRectEmpty())

@@ -9,6 +9,7 @@
 #include "platform/gdi/DC.h"
 #include "platform/gdi/GdiTypes.h"
 #include "platform/gdi/Rgn.h"
+#include "platform/gdi/SurfaceDC.h"
 #include "platform/host/Host.h"
 
 #include <cstdlib>

@@ -83,6 +83,13 @@ struct WINDOWPOS {
     UINT flags;
 };
 
+// WM_NCCALCSIZE with TRUE: rgrc[0] holds the window's new rectangle (in its parent's client
+// coordinates) and takes back the client area's.
+struct NCCALCSIZE_PARAMS {
+    RECT rgrc[3];
+    WINDOWPOS* lppos;
+};
+
 constexpr int CW_USEDEFAULT = int(0x80000000);
 
 // PeekMessage removal flags.

@@ -42,12 +42,41 @@ FrameMetrics GetFrameMetrics(const WindowRecord& w) {
     return m;
 }
 
-CRect ClientInWindow(const WindowRecord& w) {
+CRect DefaultClientInWindow(const WindowRecord& w) {
     const FrameMetrics m = GetFrameMetrics(w);
     CRect client(m.left, m.top, w.rect.Width() - m.right, w.rect.Height() - m.bottom);
     client.right = std::max(client.right, client.left);
     client.bottom = std::max(client.bottom, client.top);
     return client;
+}
+
+CRect ClientInWindow(const WindowRecord& w) {
+    // The adjustment is kept rather than the rectangle, so that scroll bars shown or hidden
+    // between two calculations still count.
+    CRect client = DefaultClientInWindow(w);
+    client.left = std::clamp<LONG>(client.left + w.clientAdjust.left, 0, w.rect.Width());
+    client.top = std::clamp<LONG>(client.top + w.clientAdjust.top, 0, w.rect.Height());
+    client.right = std::clamp<LONG>(client.right - w.clientAdjust.right, client.left,
+                                    std::max<LONG>(client.left, w.rect.Width()));
+    client.bottom = std::clamp<LONG>(client.bottom - w.clientAdjust.bottom, client.top,
+                                     std::max<LONG>(client.top, w.rect.Height()));
+    return client;
+}
+
+void RecalcClient(HWND hwnd) {
+    WindowRecord* w = Find(hwnd);
+    if (!w)
+        return;
+    NCCALCSIZE_PARAMS params{};
+    params.rgrc[0] = params.rgrc[1] = w->rect;
+    Send(w, WM_NCCALCSIZE, TRUE, LPARAM(&params));
+    // The procedure may have destroyed the window.
+    if ((w = Find(hwnd)) == nullptr)
+        return;
+    const CRect asked = CRect(params.rgrc[0]) - w->rect.TopLeft();
+    const CRect standard = DefaultClientInWindow(*w);
+    w->clientAdjust = CRect(asked.left - standard.left, asked.top - standard.top,
+                            standard.right - asked.right, standard.bottom - asked.bottom);
 }
 
 CPoint WindowOrigin(const WindowRecord& w) {

@@ -155,6 +155,23 @@ TEST_F(DialogTest, TabAndShiftTabVisitTheTabStopsThatCanTakeTheFocus) {
     EXPECT_TRUE(form.commands.empty());
 }
 
+TEST_F(DialogTest, TabFromInsideAControlGoesOnFromThatControl) {
+    constexpr int kInnerEdit = 1001; // as a drop-down combo box holds its edit
+    CommandDialog form(kFormTemplate);
+    ASSERT_TRUE(form.Create(kFormTemplate));
+    form.ShowWindow(SW_SHOW);
+    const HWND inner =
+        CreateWindowEx(0, kProbeEdit, "", WS_CHILD | WS_VISIBLE, 0, 0, 20, 10,
+                       form.GetDlgItem(kCheck)->GetSafeHwnd(),
+                       reinterpret_cast<HMENU>(std::uintptr_t(kInnerEdit)), nullptr, nullptr);
+    ::SetFocus(inner);
+    driver.PressKey(VK_TAB);
+    EXPECT_EQ(FocusId(), kNotes);
+    ::SetFocus(inner);
+    driver.PressKey(VK_TAB, MK_SHIFT);
+    EXPECT_EQ(FocusId(), kRadioA);
+}
+
 TEST_F(DialogTest, ArrowKeysMoveWithinAGroupAndChooseRadioButtons) {
     CommandDialog form(kFormTemplate);
     ASSERT_TRUE(form.Create(kFormTemplate));

@@ -4,6 +4,7 @@
 #include "platform/system/SystemMetrics.h"
 #include "platform/testing/UiDriver.h"
 #include "platform/window/MdiFrame.h"
+#include "platform/window/WindowIcons.h"
 
 #include <cstring>
 
@@ -182,6 +183,30 @@ TEST_F(MdiTest, APlotWindowsStyleOpensItMaximisedAtItsCascadePlace) {
     const CPoint step = RectInClient(plot).TopLeft() - RectInClient(first).TopLeft();
     EXPECT_GT(step.x, 0);
     EXPECT_EQ(RectInClient(plot).Size(), RectInClient(first).Size());
+}
+
+TEST_F(MdiTest, ADocumentShowsTheIconItWasGivenInItsCaption) {
+    constexpr UINT kPlotIcon = 128;
+    constexpr int kIconSize = 16;
+    constexpr std::uint32_t kOpaqueRed = 0xFFFF0000;
+    ASSERT_TRUE(RegisterIconResource(
+        kPlotIcon, kIconSize, std::vector<std::uint32_t>(kIconSize * kIconSize, kOpaqueRed)));
+    EXPECT_FALSE(RegisterIconResource(kPlotIcon + 1, kIconSize, {kOpaqueRed}));
+    EXPECT_EQ(LoadIcon(nullptr, MAKEINTRESOURCE(kPlotIcon + 1)), nullptr);
+    const HICON icon = LoadIcon(nullptr, MAKEINTRESOURCE(kPlotIcon));
+    ASSERT_NE(icon, nullptr);
+
+    DocumentWnd* doc = Open("Plot");
+    ASSERT_NE(doc, nullptr);
+    EXPECT_EQ(doc->SendMessage(WM_SETICON, ICON_BIG, LPARAM(icon)), 0);
+    EXPECT_EQ(doc->SendMessage(WM_SETICON, ICON_SMALL, LPARAM(icon)), 0);
+    EXPECT_EQ(HICON(doc->SendMessage(WM_GETICON, ICON_BIG)), icon);
+    EXPECT_EQ(HICON(doc->SendMessage(WM_SETICON, ICON_SMALL, 0)), icon) << "the previous one";
+    doc->SendMessage(WM_SETICON, ICON_SMALL, LPARAM(icon));
+    const CRect r = RectInClient(doc);
+    const POINT inIcon{r.left + GetSystemMetrics(SM_CXFRAME) + kIconSize / 2,
+                       r.top + GetSystemMetrics(SM_CYFRAME) + GetSystemMetrics(SM_CYCAPTION) / 2};
+    EXPECT_EQ(driver.Pixel(frame.m_hWndMDIClient, inIcon), RGB(255, 0, 0));
 }
 
 TEST_F(MdiTest, ClosingADocumentActivatesTheNextAndDeletesItsObject) {
