@@ -50,6 +50,9 @@
 
 // Controls.
 #include "controls/DialogORVA.h"
+#include "controls/EditORVA.h"
+#include "controls/EditORVAFloat.h"
+#include "controls/EditORVAInt.h"
 
 // Plot.
 #include "plot/Plot.h"

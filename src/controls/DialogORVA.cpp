@@ -25,6 +25,12 @@ bool CDialogORVA::GetFileAssociation(const std::string& file, std::string& execu
     return HelpDocument::GetFileAssociation(file, executable);
 }
 
+void CDialogORVA::DoDataExchange(CDataExchange* dx) {
+    CDialog::DoDataExchange(dx);
+    if (GetDlgItem(IDHELP))
+        DDX_Control(dx, IDHELP, m_helpButton);
+}
+
 BOOL CDialogORVA::OnInitDialog() {
     const BOOL result = CDialog::OnInitDialog();
     CRect client;
@@ -94,4 +100,11 @@ void MoveSizeItem(CWnd* parent, int itemId, int deltaX, int deltaY, int deltaWid
     if (!parent)
         return;
     MoveSizeItem(parent, parent->GetDlgItem(itemId), deltaX, deltaY, deltaWidth, deltaHeight);
+}
+
+void RadioGroup(CWnd* parent, int firstId, int* value, int save) {
+    if (!parent || !value)
+        return;
+    CDataExchange exchange(parent, save != 0);
+    DDX_Radio(&exchange, firstId, *value);
 }

@@ -7,6 +7,7 @@
 // document, at the topic of the dialog's identifier. MoveSizeItem and RadioGroup serve any
 // window the same way.
 
+#include "platform/widgets/Button.h"
 #include "platform/window/Dialog.h"
 
 #include <string>
@@ -33,6 +34,8 @@ public:
 protected:
     CDialogORVA() = default;
 
+    // Attaches the Help button, when the dialog has one.
+    void DoDataExchange(CDataExchange* dx) override;
     BOOL OnInitDialog() override;
     // The Help button (IDHELP) opens the help document at this dialog's topic; the result of
     // opening it is the handled flag.
@@ -43,7 +46,8 @@ protected:
     void MoveSizeItem(CWnd* item, int deltaX, int deltaY, int deltaWidth, int deltaHeight);
     void MoveSizeItem(int itemId, int deltaX, int deltaY, int deltaWidth, int deltaHeight);
 
-    int m_id = -1;       // the dialog's resource identifier, the key of the help lookup
+    int m_id = -1; // the dialog's resource identifier, the key of the help lookup
+    CButton m_helpButton;
     int m_flags = 0;     // the application's own word; not interpreted here
     int m_lastWidth = 0; // the client size last seen
     int m_lastHeight = 0;
@@ -57,3 +61,7 @@ ORVA_API void MoveSizeItem(CWnd* parent, CWnd* item, int deltaX, int deltaY, int
                            int deltaHeight);
 ORVA_API void MoveSizeItem(CWnd* parent, int itemId, int deltaX, int deltaY, int deltaWidth,
                            int deltaHeight);
+
+// Shows `*value` in the group of radio buttons that begins at `firstId` (`save` 0), or reads the
+// index of the checked one into it (`save` not 0); -1 when none is checked.
+ORVA_API void RadioGroup(CWnd* parent, int firstId, int* value, int save);

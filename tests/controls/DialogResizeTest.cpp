@@ -1,10 +1,12 @@
 // A dialog that lays out its controls from the size deltas it is told of: one control keeps to
-// the bottom right corner, one grows with the dialog, one stays put.
+// the bottom right corner, one grows with the dialog, one stays put. The user resizes it by its
+// size grip.
 
 #include "controls/DialogORVA.h"
 
 #include "platform/base/Messages.h"
 #include "platform/system/SystemMetrics.h"
+#include "platform/testing/UiDriver.h"
 #include "platform/window/WindowApi.h"
 #include "platform/window/WindowStyles.h"
 
@@ -18,18 +20,27 @@ namespace {
 constexpr UINT kResizableDialog = 310;
 constexpr UINT kListId = 1001;
 constexpr UINT kLabelId = 1002;
+constexpr UINT kGripId = 1003;
 constexpr UINT kMissingId = 1999;
+constexpr int kGripSize = 10; // dialog units
 constexpr int kGrowX = 90;
 constexpr int kGrowY = 40;
 constexpr int kShrinkX = -30;
 constexpr int kShrinkY = -15;
 
 void RegisterTemplate() {
-    RegisterDialogTemplate(kResizableDialog, {"Resizable",
-                                              {160, 100},
-                                              {{"", "Label", kLabelId, WS_VISIBLE, {4, 4, 60, 12}},
-                                               {"", "", kListId, WS_VISIBLE, {4, 16, 150, 70}},
-                                               {"", "OK", IDOK, WS_VISIBLE, {100, 76, 150, 90}}}});
+    DialogTemplate dialog{"Resizable",
+                          {160, 100},
+                          {{"Static", "Label", kLabelId, WS_VISIBLE, {4, 4, 60, 12}},
+                           {"Static", "", kListId, WS_VISIBLE | WS_BORDER, {4, 16, 150, 70}},
+                           {"Button", "OK", IDOK, WS_VISIBLE, {100, 76, 150, 90}},
+                           {"ScrollBar",
+                            "",
+                            kGripId,
+                            WS_VISIBLE | SBS_SIZEGRIP,
+                            {160 - kGripSize, 100 - kGripSize, 160, 100}}}};
+    dialog.style |= WS_THICKFRAME;
+    RegisterDialogTemplate(kResizableDialog, std::move(dialog));
 }
 
 class LayoutDialog : public CDialogORVA {
@@ -43,6 +54,7 @@ public:
         deltas.emplace_back(deltaX, deltaY);
         MoveSizeItem(IDOK, deltaX, deltaY, 0, 0);
         MoveSizeItem(kListId, 0, 0, deltaX, deltaY);
+        MoveSizeItem(kGripId, deltaX, deltaY, 0, 0);
         MoveSizeItem(kMissingId, deltaX, deltaY, 0, 0);
     }
     std::vector<std::pair<int, int>> deltas;
@@ -204,6 +216,32 @@ TEST_F(DialogResize, HalfAMinimumTurnsLimitAndReportsOff) {
     EXPECT_EQ(info.ptMinTrackSize.y, defaults.ptMinTrackSize.y);
     Resize(dialog, 500, 400);
     EXPECT_TRUE(dialog.deltas.empty());
+    dialog.DestroyWindow();
+}
+
+TEST_F(DialogResize, TheUserCannotMakeItSmallerThanItsMinimum) {
+    LayoutDialog dialog;
+    ASSERT_TRUE(dialog.Create(kResizableDialog));
+    dialog.ShowWindow(SW_SHOW);
+    const CRect design = WindowSize(dialog);
+    const CRect ok = ItemRect(dialog, IDOK);
+    const CRect grip = ItemRect(dialog, kGripId);
+    // Points of the dialog's client area, which stays in place while the grip moves.
+    const POINT inGrip = grip.CenterPoint();
+    UiDriver ui;
+
+    ui.Drag(dialog.GetSafeHwnd(), inGrip, POINT{inGrip.x + kGrowX, inGrip.y + kGrowY});
+    EXPECT_EQ(WindowSize(dialog).Size(), CSize(design.Width() + kGrowX, design.Height() + kGrowY));
+    CRect moved = ok;
+    moved.OffsetRect(kGrowX, kGrowY);
+    EXPECT_EQ(ItemRect(dialog, IDOK), moved);
+
+    // Far past the design size the other way: the dialog stops at it, and so do its controls.
+    const POINT movedGrip{inGrip.x + kGrowX, inGrip.y + kGrowY};
+    ui.Drag(dialog.GetSafeHwnd(), movedGrip, POINT{inGrip.x - 4 * kGrowX, inGrip.y - 4 * kGrowY});
+    EXPECT_EQ(WindowSize(dialog).Size(), design.Size());
+    EXPECT_EQ(ItemRect(dialog, IDOK), ok);
+    EXPECT_EQ(ItemRect(dialog, kGripId), grip);
     dialog.DestroyWindow();
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/base/Messages.h"
 #include "platform/testing/MessageBoxResponder.h"
+#include "platform/testing/UiDriver.h"
 #include "platform/window/WindowApi.h"
 #include "platform/window/WindowStyles.h"
 #include "support/HelpDocument.h"
@@ -26,8 +27,8 @@ void RegisterTemplates() {
     for (UINT id : {kCulvertDialog, kPlainDialog})
         RegisterDialogTemplate(id, {"Data",
                                     {120, 80},
-                                    {{"", "OK", IDOK, WS_VISIBLE, {4, 60, 54, 74}},
-                                     {"", "Help", IDHELP, WS_VISIBLE, {60, 60, 110, 74}}}});
+                                    {{"Button", "OK", IDOK, WS_VISIBLE, {4, 60, 54, 74}},
+                                     {"Button", "Help", IDHELP, WS_VISIBLE, {60, 60, 110, 74}}}});
 }
 
 class CountingDialog : public CDialogORVA {
@@ -143,6 +144,23 @@ TEST_F(DialogHelp, HelpButtonOpensTheTopicOfTheDialog) {
     EXPECT_EQ(m_boxes.Count(), 0);
 }
 
+TEST_F(DialogHelp, ClickOnTheHelpButtonOpensTheTopic) {
+    CDialogORVA dialog(kCulvertDialog, nullptr);
+    ASSERT_TRUE(dialog.Create(kCulvertDialog));
+    dialog.ShowWindow(SW_SHOW);
+    CWnd* help = dialog.GetDlgItem(IDHELP);
+    ASSERT_NE(help, nullptr);
+    // The dialog holds its Help button as a button object of its own.
+    CWnd* object = CWnd::FromHandlePermanent(help->GetSafeHwnd());
+    ASSERT_NE(object, nullptr);
+    EXPECT_TRUE(object->IsKindOf(RUNTIME_CLASS(CButton)));
+    UiDriver ui;
+    ui.Click(help->GetSafeHwnd(), POINT{4, 4});
+    EXPECT_EQ(m_scratch.ReadPipe("reader.out"),
+              "/A\nnameddest=Culvert Crossing Data\n" + m_document + "\n");
+    dialog.DestroyWindow();
+}
+
 TEST_F(DialogHelp, DialogWithoutTopicOpensTheIntroduction) {
     EXPECT_NE(PressHelp(kPlainDialog), 0);
     EXPECT_EQ(m_scratch.ReadPipe("reader.out"),
@@ -153,4 +171,37 @@ TEST_F(DialogHelp, MissingDocumentLeavesTheCommandUnhandled) {
     fs::remove(m_document);
     EXPECT_EQ(PressHelp(kCulvertDialog), 0);
     EXPECT_EQ(m_boxes.LastText(), "The RD-4 Help PDF File Document was not found.");
+}
+
+TEST(RadioGroup, ShowsAndReadsTheCheckedButtonOfAnyWindow) {
+    constexpr UINT kFirstRadio = 400;
+    constexpr int kRadios = 3;
+    constexpr int kThird = 2;
+    constexpr int kNone = -1;
+    CWnd parent;
+    ASSERT_TRUE(parent.CreateEx(0, nullptr, "Options", WS_POPUP | WS_VISIBLE, 0, 0, 200, 120,
+                                nullptr, nullptr));
+    CButton radios[kRadios];
+    for (int i = 0; i < kRadios; ++i)
+        radios[i].Create("Choice", WS_CHILD | WS_VISIBLE | BS_AUTORADIOBUTTON | (i ? 0 : WS_GROUP),
+                         CRect(4, 4 + 24 * i, 120, 24 + 24 * i), &parent, kFirstRadio + i);
+    CButton after;
+    after.Create("After", WS_CHILD | WS_VISIBLE | BS_AUTORADIOBUTTON | WS_GROUP,
+                 CRect(4, 80, 120, 100), &parent, kFirstRadio + kRadios);
+
+    int value = kNone;
+    RadioGroup(&parent, kFirstRadio, &value, TRUE);
+    EXPECT_EQ(value, kNone);
+    value = kThird;
+    RadioGroup(&parent, kFirstRadio, &value, FALSE);
+    EXPECT_EQ(radios[kThird].GetCheck(), BST_CHECKED);
+    EXPECT_EQ(after.GetCheck(), BST_UNCHECKED);
+
+    UiDriver ui;
+    ui.Click(radios[0].GetSafeHwnd(), POINT{6, 6});
+    RadioGroup(&parent, kFirstRadio, &value, TRUE);
+    EXPECT_EQ(value, 0);
+    RadioGroup(nullptr, kFirstRadio, &value, TRUE); // nothing to read
+    EXPECT_EQ(value, 0);
+    parent.DestroyWindow();
 }

@@ -177,3 +177,15 @@ TEST_F(NumericEdit, MouseMovesAreToldToTheParent) {
     EXPECT_EQ(moves[0].id, kFloatId);
     EXPECT_EQ(moves[0].from, m_form.number.GetSafeHwnd());
 }
+
+TEST_F(NumericEdit, TabCommitsAndSelectsAllOfTheNextField) {
+    m_form.other.SetValue(12.5, -1);
+    Prepare(m_form.number, "", 0, 0);
+    m_ui.Type("6.25");
+    m_ui.PressKey(VK_TAB);
+    EXPECT_EQ(::GetFocus(), m_form.other.GetSafeHwnd());
+    EXPECT_EQ(m_form.number.GetValue(), 6.25);
+    EXPECT_EQ(Selection(m_form.other), std::make_pair(0, Text(m_form.other).GetLength()));
+    m_ui.Type("3"); // replaces the whole value
+    EXPECT_EQ(Text(m_form.other), "3");
+}
