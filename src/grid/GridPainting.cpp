@@ -286,8 +286,7 @@ BOOL CGridCtrl::InvalidateCellRect(int row, int col) {
         !IsCellVisible(row, col) || !GetCellRect(row, col, &rect)) {
         return FALSE;
     }
-    rect.right++;
-    rect.bottom++;
+    rect = ExclusiveCellRect(rect);
     InvalidateRect(&rect, TRUE);
     return TRUE;
 }
@@ -304,8 +303,7 @@ BOOL CGridCtrl::InvalidateCellRect(const CCellRange& cellRange) {
     if (!shown.IsValid() || !GetCellRangeRect(shown, &rect)) {
         return FALSE;
     }
-    rect.right++;
-    rect.bottom++;
+    rect = ExclusiveCellRect(rect);
     InvalidateRect(&rect, TRUE);
     return TRUE;
 }
