@@ -3,6 +3,7 @@
 
 #include "platform/gdi/DC.h"
 #include "platform/gdi/Surface.h"
+#include "platform/gdi/SurfaceDC.h"
 
 #include <benchmark/benchmark.h>
 #include <cairo.h>

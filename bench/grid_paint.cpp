@@ -9,6 +9,7 @@
 #include <cairo.h>
 #include <pango/pangocairo.h>
 
+#include <cstdint>
 #include <cstdio>
 #include <memory>
 
@@ -20,6 +21,7 @@ constexpr int kRowHeight = 20;
 constexpr int kColWidth = 64;
 constexpr int kRows = 80;
 constexpr int kCols = 40;
+constexpr int kVirtualRows = 1000000;
 
 // A visible top-level window whose client area the grid fills.
 struct GridWindow {
@@ -64,6 +66,54 @@ void BM_GridRepaint(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_GridRepaint)->Unit(benchmark::kMillisecond);
+
+// A first paint: every text is one the drawing has not seen. Each repaint shows texts of the
+// baseline's shapes ("12.05") with every digit replaced by one of 62 letters and digits drawn
+// from the cell and the repaint's number, so that none comes back while it could be kept.
+constexpr char kAlphabet[] = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+std::uint64_t g_generation = 0;
+
+std::uint64_t Mix(std::uint64_t value) {
+    value += 0x9E3779B97F4A7C15ull;
+    value = (value ^ (value >> 30)) * 0xBF58476D1CE4E5B9ull;
+    value = (value ^ (value >> 27)) * 0x94D049BB133111EBull;
+    return value ^ (value >> 31);
+}
+
+BOOL AnswerNewText(GV_DISPINFO* request, LPARAM) {
+    char text[16];
+    std::snprintf(text, sizeof text, "%d.%02d", request->item.row, request->item.col);
+    std::uint64_t bits = Mix(g_generation << 32 | std::uint64_t(request->item.row) << 16 |
+                             std::uint64_t(request->item.col));
+    for (char* c = text; *c != '\0'; ++c) {
+        if (*c != '.') {
+            *c = kAlphabet[bits % (sizeof kAlphabet - 1)];
+            bits /= sizeof kAlphabet - 1;
+        }
+    }
+    request->item.text = text;
+    return TRUE;
+}
+
+void BM_GridFirstPaint(benchmark::State& state) {
+    GridWindow window(0);
+    window.grid.SetVirtualMode(TRUE);
+    window.grid.SetCallbackFunc(AnswerNewText, 0);
+    window.grid.SetDefCellHeight(kRowHeight);
+    window.grid.SetRowCount(kRows);
+    window.grid.SetColumnCount(kCols);
+    window.grid.SetFixedRowCount(1);
+    window.grid.SetFixedColumnCount(1);
+    for (int col = 0; col < kCols; col++) {
+        window.grid.SetColumnWidth(col, kColWidth);
+    }
+    window.grid.SendMessage(WM_SIZE);
+    for (auto _ : state) {
+        ++g_generation;
+        window.Repaint();
+    }
+}
+BENCHMARK(BM_GridFirstPaint)->Unit(benchmark::kMillisecond);
 
 // The same picture drawn directly: the background, the fixed strips with their raised edges,
 // the grid lines, and every cell's text measured, centred vertically and clipped to its cell.
@@ -156,30 +206,57 @@ BOOL AnswerVirtualCell(GV_DISPINFO* request, LPARAM) {
     return TRUE;
 }
 
-void BM_VirtualPageScroll(benchmark::State& state) {
-    GridWindow window(0);
-    CGridCtrl& grid = window.grid;
-    grid.SetVirtualMode(TRUE);
-    grid.SetCallbackFunc(AnswerVirtualCell, 0);
-    grid.SetDefCellHeight(kRowHeight);
-    grid.SetRowCount(1000000);
-    grid.SetColumnCount(kCols);
-    grid.SetFixedRowCount(1);
-    grid.SetFixedColumnCount(1);
-    for (int col = 0; col < kCols; col++) {
-        grid.SetColumnWidth(col, kColWidth);
+// A virtual grid of a million rows scrolled to the middle, each cell's text given on request.
+struct VirtualGridWindow : GridWindow {
+    VirtualGridWindow() : GridWindow(0) {
+        grid.SetVirtualMode(TRUE);
+        grid.SetCallbackFunc(AnswerVirtualCell, 0);
+        grid.SetDefCellHeight(kRowHeight);
+        grid.SetRowCount(kVirtualRows);
+        grid.SetColumnCount(kCols);
+        grid.SetFixedRowCount(1);
+        grid.SetFixedColumnCount(1);
+        for (int col = 0; col < kCols; col++) {
+            grid.SetColumnWidth(col, kColWidth);
+        }
+        grid.SendMessage(WM_SIZE);
+        grid.SetScrollPos32(SB_VERT, kVirtualRows / 2 * kRowHeight);
+        Repaint();
     }
-    grid.SendMessage(WM_SIZE);
-    grid.SetScrollPos32(SB_VERT, 500000 * kRowHeight);
-    window.Repaint();
+};
+
+// The baseline of the scrolls: the whole window painted again where it stands.
+void BM_VirtualRepaint(benchmark::State& state) {
+    VirtualGridWindow window;
+    for (auto _ : state) {
+        window.Repaint();
+    }
+}
+BENCHMARK(BM_VirtualRepaint)->Unit(benchmark::kMillisecond);
+
+// A page down and back up, each painted: every scrolling row is new.
+void BM_VirtualPageScroll(benchmark::State& state) {
+    VirtualGridWindow window;
     bool down = true;
     for (auto _ : state) {
-        grid.SendMessage(WM_VSCROLL, down ? SB_PAGEDOWN : SB_PAGEUP);
-        grid.UpdateWindow();
+        window.grid.SendMessage(WM_VSCROLL, down ? SB_PAGEDOWN : SB_PAGEUP);
+        window.grid.UpdateWindow();
         down = !down;
     }
-    state.counters["top row"] = grid.GetVisibleNonFixedCellRange().minRow;
+    state.counters["top row"] = window.grid.GetVisibleNonFixedCellRange().minRow;
 }
 BENCHMARK(BM_VirtualPageScroll)->Unit(benchmark::kMillisecond);
+
+// A row down and back up, each painted: the rest of the rows move.
+void BM_VirtualLineScroll(benchmark::State& state) {
+    VirtualGridWindow window;
+    bool down = true;
+    for (auto _ : state) {
+        window.grid.SendMessage(WM_VSCROLL, down ? SB_LINEDOWN : SB_LINEUP);
+        window.grid.UpdateWindow();
+        down = !down;
+    }
+}
+BENCHMARK(BM_VirtualLineScroll)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -24,6 +24,11 @@
 #include "platform/system/SysColors.h"
 #include "platform/system/SystemMetrics.h"
 #include "platform/system/SystemParameters.h"
+#include "platform/widgets/Button.h"
+#include "platform/widgets/ComboBox.h"
+#include "platform/widgets/Edit.h"
+#include "platform/widgets/ScrollBar.h"
+#include "platform/widgets/Static.h"
 #include "platform/window/Dialog.h"
 #include "platform/window/MessageBox.h"
 #include "platform/window/WindowApi.h"
@@ -47,7 +52,21 @@
 #include "controls/DialogORVA.h"
 
 // Plot.
+#include "plot/Plot.h"
+#include "plot/PlotApi.h"
+#include "plot/PlotBar.h"
+#include "plot/PlotCanvas.h"
 #include "plot/PlotData.h"
+#include "plot/PlotEvents.h"
+#include "plot/PlotFileValues.h"
+#include "plot/PlotLegend.h"
+#include "plot/PlotList.h"
+#include "plot/PlotRealtime.h"
+#include "plot/PlotScatter.h"
+#include "plot/PlotWindow.h"
+#include "plot/PlotWindowTop.h"
+#include "plot/PlotWindows.h"
+#include "plot/RightMenu.h"
 
 // Support.
 #include "support/DataReader.h"

@@ -4,7 +4,9 @@
 #include "chart/ChartEngine.h"
 #include "chart/ChartFile.h"
 #include "chart/ChartPropertyIds.h"
+#include "platform/gdi/Bitmap.h"
 #include "platform/gdi/DC.h"
+#include "platform/gdi/SurfaceDC.h"
 #include "platform/gdi/canvas/Canvas.h"
 #include "platform/host/Clipboard.h"
 #include "platform/host/GlobalMemory.h"
@@ -17,9 +19,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 
 extern char** environ;
@@ -58,6 +62,84 @@ RECT ZoomBox(HWND chart, ChartEngine& engine) {
 }
 std::pair<HWND, ChartEngine*> g_lastChart{nullptr, nullptr};
 
+// Charts whose image waits to be drawn again. ChartResetImage only marks it: a chart fed point
+// by point and reset after each is drawn once, when it is next painted or its image is
+// handed out.
+std::set<HWND>& StaleImages() {
+    static std::set<HWND> charts;
+    return charts;
+}
+
+void BringImageUpToDate(HWND chart, ChartEngine& engine) {
+    if (StaleImages().erase(chart) != 0 || !engine.Image() ||
+        engine.Image()->Width() != engine.Width() || engine.Image()->Height() != engine.Height())
+        engine.ResetImage();
+}
+
+// The image handed out as a bitmap selected into a memory context, for callers that copy the
+// chart elsewhere: property 2574 asks for it, 2575 and 2580 give the two handles, which fit the
+// chart's 32-bit integers. The chart owns both until it goes.
+constexpr int kImageHandlesWanted = 2574;
+constexpr int kImageBitmap = 2575;
+constexpr int kImageDC = 2580;
+
+struct ImageHandles {
+    HBITMAP bitmap = nullptr;
+    HDC dc = nullptr;
+    HGDIOBJ firstBitmap = nullptr; // the context's own, put back before the context goes
+};
+
+std::map<HWND, ImageHandles>& HandedOutImages() {
+    static std::map<HWND, ImageHandles> images;
+    return images;
+}
+
+void FreeImageHandles(HWND chart) {
+    auto it = HandedOutImages().find(chart);
+    if (it == HandedOutImages().end())
+        return;
+    ImageHandles& image = it->second;
+    if (image.dc) {
+        SelectObject(image.dc, image.firstBitmap);
+        DeleteDC(image.dc);
+    }
+    if (image.bitmap)
+        DeleteObject(image.bitmap);
+    HandedOutImages().erase(it);
+}
+
+void HandOutImage(HWND chart, ChartEngine& engine) {
+    if (engine.Properties().Int(kImageHandlesWanted, 0) != 1)
+        return;
+    BringImageUpToDate(chart, engine);
+    const Canvas* picture = engine.Image();
+    if (!picture)
+        return;
+    const int width = picture->Width(), height = picture->Height();
+    ImageHandles& image = HandedOutImages()[chart];
+    BITMAP info{};
+    if (image.bitmap && GetObject(image.bitmap, sizeof info, &info) &&
+        (info.bmWidth != width || info.bmHeight != height)) {
+        SelectObject(image.dc, image.firstBitmap);
+        DeleteObject(image.bitmap);
+        image.bitmap = nullptr;
+    }
+    if (!image.dc)
+        image.dc = CreateCompatibleDC(nullptr);
+    if (!image.bitmap) {
+        image.bitmap = CreateBitmap(width, height, 1, 32, nullptr);
+        if (image.dc && image.bitmap) {
+            HGDIOBJ previous = SelectObject(image.dc, image.bitmap);
+            if (!image.firstBitmap)
+                image.firstBitmap = previous;
+        }
+    }
+    if (Surface* pixels = GdiBitmapSurface(image.bitmap))
+        picture->BlitTo(*pixels, 0, 0, RECT{0, 0, width, height});
+    engine.Properties().SetInt(kImageBitmap, int(reinterpret_cast<std::uintptr_t>(image.bitmap)));
+    engine.Properties().SetInt(kImageDC, int(reinterpret_cast<std::uintptr_t>(image.dc)));
+}
+
 void Notify(HWND chart, unsigned short code) {
     HWND parent = GetParent(chart);
     if (parent)
@@ -73,9 +155,7 @@ void Repaint(HWND chart, ChartEngine& engine) {
 void Paint(HWND chart, ChartEngine& engine) {
     PAINTSTRUCT paint{};
     HDC dc = BeginPaint(chart, &paint);
-    if (!engine.Image() || engine.Image()->Width() != engine.Width() ||
-        engine.Image()->Height() != engine.Height())
-        engine.ResetImage();
+    BringImageUpToDate(chart, engine);
     POINT origin{};
     if (Surface* surface = dc ? GdiSurfaceOf(dc, &origin) : nullptr) {
         if (engine.Image()) {
@@ -164,6 +244,8 @@ LRESULT ChartWndProc(HWND chart, UINT message, WPARAM wParam, LPARAM lParam) {
         }
         break;
     case WM_NCDESTROY:
+        FreeImageHandles(chart);
+        StaleImages().erase(chart);
         if (g_drag.chart == chart)
             g_drag = {};
         if (g_lastChart.first == chart)
@@ -306,7 +388,8 @@ int ChartResetImage(HWND chart, int, int) {
     ChartEngine* engine = ChartEngineOf(chart);
     if (!engine)
         return 0;
-    engine->ResetImage();
+    StaleImages().insert(chart);
+    HandOutImage(chart, *engine);
     return 1;
 }
 

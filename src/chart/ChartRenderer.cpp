@@ -76,6 +76,8 @@ void DrawSymbol(Canvas& canvas, int symbol, double x, double y, COLORREF colour)
 // point, stretched to the last point of the column before it, which joins the two as the line
 // would. The picture is the same, and cairo fills a thousand rectangles instead of stroking a
 // million-point zigzag. Columns further apart are joined by segments.
+constexpr long kLastColumn = 99999; // pixels beyond are clamped
+
 void DrawCurveLine(Canvas& canvas, const ChartFrame& f, const ChartSeries& series, int s,
                    COLORREF colour, double width, const std::vector<double>& dashes) {
     const size_t first = size_t(s) * size_t(series.points);
@@ -154,18 +156,20 @@ void DrawCurveLine(Canvas& canvas, const ChartFrame& f, const ChartSeries& serie
             // The points after this one in the same column need only their lowest, highest
             // and last Y: in data units, turned into pixels once. Anything else (a missing
             // value, X going back, the next column) is left to the step above.
-            if (!finiteScales)
+            // With X going forward the column's pixels only grow: a point is in it while they
+            // stay short of the next column (which also turns away NaN). Columns left of the
+            // plot, where the conversion rounds towards zero, and at the clamp take the step
+            // above.
+            if (!finiteScales || !(xScale > 0) || column < 0 || column >= kLastColumn)
                 continue;
+            const double nextColumn = double(column + 1);
             double yLow = y, yHigh = y;
             int q = p + 1;
             for (; q < series.points; ++q) {
                 const double nextY = ys[q];
                 const double nextX = xs ? xs[q] : double(q);
                 if (IsMissing(nextY) || IsMissing(nextX) || nextY != nextY ||
-                    !(nextX >= previousData))
-                    break;
-                const double nextPx = std::clamp(xShift + nextX * xScale, -1e5, 1e5);
-                if (nextPx != nextPx || long(nextPx) != column)
+                    !(nextX >= previousData) || !(xShift + nextX * xScale < nextColumn))
                     break;
                 previousData = nextX;
                 yLow = std::min(yLow, nextY);

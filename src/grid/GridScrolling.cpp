@@ -120,8 +120,9 @@ void CGridCtrl::OnVScroll(UINT code, UINT position, CScrollBar* scrollBar) {
 }
 
 // Both bars follow one rule, with columns and widths for the horizontal bar and rows and
-// heights for the vertical one. Only the scrolling part of the client area repaints, so the
-// fixed rows or columns along the bar do not.
+// heights for the vertical one. Only the scrolling part of the client area changes, so the
+// fixed rows or columns along the bar stay; within it the cells still in view are moved, as
+// pixels, and only the lines that come into view are drawn.
 void CGridCtrl::ScrollBy(int bar, UINT code) {
     EndEditing();
     const bool horizontal = bar == SB_HORZ;
@@ -144,6 +145,22 @@ void CGridCtrl::ScrollBy(int bar, UINT code) {
         scrolling.top = GetFixedRowHeight();
     }
     const int page = horizontal ? scrolling.Width() : scrolling.Height();
+    const auto showScrolled = [&] {
+        const CCellID now = GetTopleftNonFixedCell();
+        const int newFirst = horizontal ? now.col : now.row;
+        int shift = 0; // the size of the lines scrolled past, up to a page
+        for (int line = std::min(firstLine, newFirst);
+             line < std::max(firstLine, newFirst) && shift < page; line++) {
+            shift += sizeOf(line);
+        }
+        if (shift == 0 || shift >= page) {
+            InvalidateRect(&scrolling);
+            return;
+        }
+        const int by = newFirst > firstLine ? -shift : shift;
+        ::ScrollWindowEx(GetSafeHwnd(), horizontal ? by : 0, horizontal ? 0 : by, &scrolling,
+                         &scrolling, nullptr, nullptr, SW_INVALIDATE);
+    };
 
     switch (code) {
     case SB_LINEUP:
@@ -153,7 +170,7 @@ void CGridCtrl::ScrollBy(int bar, UINT code) {
                 line--;
             }
             SetScrollPos32(bar, std::max(0, position - sizeOf(line)));
-            InvalidateRect(&scrolling);
+            showScrolled();
         }
         break;
     case SB_LINEDOWN:
@@ -166,26 +183,26 @@ void CGridCtrl::ScrollBy(int bar, UINT code) {
             if (GetScrollPos32(bar) == position) {
                 break; // at the end of the range: nothing to repaint
             }
-            InvalidateRect(&scrolling);
+            showScrolled();
         }
         break;
     case SB_PAGEUP:
         if (position > 0) {
             SetScrollPos32(bar, std::max(0, position - page));
-            InvalidateRect(&scrolling);
+            showScrolled();
         }
         break;
     case SB_PAGEDOWN:
         if (position < maximum) {
             SetScrollPos32(bar, std::min(maximum, position + page));
-            InvalidateRect(&scrolling);
+            showScrolled();
         }
         break;
     case SB_THUMBPOSITION:
     case SB_THUMBTRACK: {
         SetScrollPos32(bar, GetScrollPos32(bar, TRUE));
         if (GetTopleftNonFixedCell() != topLeft) {
-            InvalidateRect(&scrolling);
+            showScrolled();
         }
         break;
     }

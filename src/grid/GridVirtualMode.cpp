@@ -29,7 +29,9 @@ CGridCellBase* CGridCtrl::GetCell(int row, int col) const {
         item.font = *font;
     }
     item.margin = defaultCell->GetMargin();
-    item.text.Empty();
+    // Emptied in place: the answer's text goes into the buffer of the last one, and on into
+    // the shared cell's own, so that a request allocates nothing.
+    item.text.Delete(0, item.text.GetLength());
 
     if (IsCellSelected(row, col)) {
         item.state |= GV_STATE_SELECTED;

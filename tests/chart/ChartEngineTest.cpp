@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <vector>
 
 namespace {
@@ -150,6 +151,52 @@ TEST(ChartEngine, ZoomShowsTheBoxAndFramingUndoesIt) {
     EXPECT_FALSE(engine.ZoomTo(10, 10, 12, 12));
     engine.Unzoom();
     EXPECT_EQ(engine.Frame().xMax, 10);
+}
+
+} // namespace
+
+namespace {
+
+// The automatic ranges follow every way the data change: whole arrays, single elements,
+// appended points and a replaced store; missing and infinite values never count.
+TEST(ChartEngine, AutomaticRangesFollowTheDataWhateverChangesIt) {
+    ChartEngine engine(600, 400);
+    auto& p = engine.Properties();
+    p.SetInt(CurveCount, 1);
+    p.SetInt(PointCount, 4);
+    const double xs[] = {1, 2, 3, 4};
+    const double ys[] = {5, MissingValue, 7, HUGE_VAL};
+    engine.SetArray(XData, xs, 4);
+    engine.SetArray(YData, ys, 4);
+    const auto range = [&engine] {
+        engine.Reinitialize();
+        const ChartFrame& f = engine.Frame();
+        return std::vector<double>{f.xMin, f.xMax, f.yMin, f.yMax};
+    };
+    const std::vector<double> first = range();
+    EXPECT_LE(first[2], 5);
+    EXPECT_GE(first[3], 7);
+    EXPECT_LT(first[3], 100); // the infinite value left out
+
+    const double high = 500;
+    engine.SetElement(YData, 0, &high);
+    EXPECT_GE(range()[3], 500);
+
+    const double far = 1000, low = -50;
+    engine.SetArray(AppendX, &far, 1);
+    engine.SetArray(AppendY, &low, 1);
+    const std::vector<double> appended = range();
+    EXPECT_GE(appended[1], 1000);
+    EXPECT_LE(appended[2], -50);
+
+    ChartProperties copy = p;
+    const double small[] = {0.5, 0.6, 0.7, 0.8};
+    copy.SetArray(YData, small, 4);
+    p = copy;
+    engine.Touch();
+    const std::vector<double> replaced = range();
+    EXPECT_LT(replaced[3], 2);
+    EXPECT_GT(replaced[2], 0);
 }
 
 } // namespace

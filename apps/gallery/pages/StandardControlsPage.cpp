@@ -5,8 +5,6 @@
 
 #include "GalleryPage.h"
 
-#include "platform/gdi/DC.h"
-#include "platform/system/SysColors.h"
 #include "platform/widgets/Button.h"
 #include "platform/widgets/ComboBox.h"
 #include "platform/widgets/Edit.h"
@@ -34,7 +32,7 @@ enum : UINT {
 
 DialogTemplate ControlsTemplate() {
     constexpr DWORD visible = WS_VISIBLE | WS_TABSTOP;
-    DialogTemplate t{"Standard controls", {330, 214}, {}};
+    DialogTemplate t{"Standard controls", {330, 196}, {}};
     auto add = [&](const char* cls, const char* text, UINT id, DWORD style, RECT r) {
         t.items.push_back({cls, text, id, style | WS_VISIBLE, r});
     };
@@ -48,7 +46,7 @@ DialogTemplate ControlsTemplate() {
     add("Edit", "0.0015", kDisabledEdit, visible | WS_BORDER | WS_DISABLED | ES_RIGHT,
         {56, 52, 156, 66});
     add("Edit", "Multi-line notes:\r\nsecond line\r\nthird line", kNotes,
-        visible | WS_BORDER | ES_MULTILINE | ES_WANTRETURN, {12, 72, 156, 112});
+        visible | WS_BORDER | WS_VSCROLL | ES_MULTILINE | ES_WANTRETURN, {12, 72, 156, 112});
 
     add("Button", "Options", 0xFFFF, BS_GROUPBOX, {168, 4, 324, 118});
     add("Button", "Checked box", kChecked, visible | BS_AUTOCHECKBOX, {176, 16, 318, 28});
@@ -95,23 +93,32 @@ void Fill(CDialog& dialog) {
     name->SendMessage(EM_SETSEL, 5, 12);
 }
 
-// Dialogs stand on the button face colour, as the controls do.
-class ControlsDialog : public CDialog {
-public:
-    ControlsDialog() : CDialog(kDialogId) {}
-
-protected:
-    BOOL OnEraseBkgnd(CDC* dc) override {
-        CRect client;
-        GetClientRect(&client);
-        dc->FillSolidRect(&client, GetSysColor(COLOR_3DFACE));
-        return TRUE;
-    }
-};
+// Where a script driving the dialog on a display clicks: points relative to the dialog's
+// top-left corner, printed as "at <name> <x> <y>".
+void PrintPlaces(GalleryContext& context, CDialog& dialog) {
+    CRect frame;
+    dialog.GetWindowRect(&frame);
+    const auto print = [&](const char* name, CPoint screen) {
+        context.Print("at %s %d %d", name, int(screen.x - frame.left), int(screen.y - frame.top));
+    };
+    const auto rectOf = [&](UINT id) {
+        CRect r;
+        dialog.GetDlgItem(int(id))->GetWindowRect(&r);
+        return r;
+    };
+    print("name-edit", rectOf(kName).CenterPoint());
+    const CRect box = rectOf(kUnchecked);
+    print("unchecked-box", CPoint(box.left + 6, box.CenterPoint().y));
+    const CRect method = rectOf(kMethod);
+    print("method-arrow", CPoint(method.right - 8, method.CenterPoint().y));
+    const int row = int(dialog.GetDlgItem(kMethod)->SendMessage(CB_GETITEMHEIGHT, 0));
+    print("method-list-row-1", CPoint(method.left + 20, method.bottom + 1 + row + row / 2));
+    print("size-grip", rectOf(kGrip).CenterPoint());
+}
 
 void BuildStandardControlsPage(GalleryContext& context) {
     RegisterDialogTemplate(kDialogId, ControlsTemplate());
-    static ControlsDialog controls;
+    static CDialog controls(kDialogId);
     if (!controls.Create(kDialogId)) {
         context.Print("standard controls: the dialog could not be made");
         return;
@@ -120,7 +127,7 @@ void BuildStandardControlsPage(GalleryContext& context) {
     Fill(controls);
     context.Capture(controls.m_hWnd, "30-standard-controls");
 
-    static ControlsDialog dropped;
+    static CDialog dropped(kDialogId);
     if (!dropped.Create(kDialogId))
         return;
     dropped.SetWindowPos(nullptr, 640, 40, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
@@ -137,6 +144,10 @@ void BuildStandardControlsPage(GalleryContext& context) {
     method->GetLBText(method->GetCurSel(), chosen);
     context.Print("method list open: %s, %d items, \"%s\" selected",
                   method->GetDroppedState() ? "yes" : "no", method->GetCount(), chosen.GetString());
+    // The pictures are taken: on a display only the first dialog stays, for the user (or a
+    // script) to work.
+    dropped.DestroyWindow();
+    PrintPlaces(context, controls);
 }
 
 } // namespace

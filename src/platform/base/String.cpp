@@ -117,6 +117,11 @@ void CString::AssignCopy(const char* text, int length) {
     }
     // The source may live inside this string's own buffer (s = s.Mid(1) through a pointer).
     Data* old = GetData();
+    if (old->refs == 1 && old->capacity >= length) {
+        std::memmove(m_chars, text, size_t(length)); // a buffer of our own is written over
+        SetLength(length);
+        return;
+    }
     Data* data = Allocate(length);
     std::memcpy(data->Chars(), text, size_t(length));
     data->Chars()[length] = 0;
@@ -356,12 +361,19 @@ CString& CString::MakeReverse() {
 }
 
 void CString::FormatV(const char* format, va_list args) {
+    // Short results are printed once, on the stack, and go into the string's own buffer when
+    // it has room; the arguments may be this very string.
+    char small[256];
     va_list measure;
     va_copy(measure, args);
-    const int length = std::vsnprintf(nullptr, 0, format, measure);
+    const int length = std::vsnprintf(small, sizeof small, format, measure);
     va_end(measure);
     if (length <= 0) {
         Empty();
+        return;
+    }
+    if (length < int(sizeof small)) {
+        AssignCopy(small, length);
         return;
     }
     Data* data = Allocate(length);

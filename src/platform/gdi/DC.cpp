@@ -39,6 +39,7 @@ DcState* NewContext() {
     dc->attributes.brush = Ref(StockObject(WHITE_BRUSH));
     dc->attributes.font = Ref(StockObject(SYSTEM_FONT));
     LiveContexts().insert(dc);
+    dc->handle = NewHandle(dc, true);
     return dc;
 }
 
@@ -147,8 +148,8 @@ RECT DcState::ToSurface(const RECT& r) const {
 }
 
 DcState* LookupDC(HDC handle) {
-    auto* dc = reinterpret_cast<DcState*>(handle);
-    return handle != nullptr && LiveContexts().count(dc) != 0 ? dc : nullptr;
+    auto* dc = static_cast<DcState*>(HandleTarget(handle, true));
+    return dc != nullptr && LiveContexts().count(dc) != 0 ? dc : nullptr;
 }
 
 } // namespace gdi
@@ -178,6 +179,7 @@ BOOL DeleteDC(HDC handle) {
     if (dc == nullptr)
         return FALSE;
     LiveContexts().erase(dc);
+    FreeHandle(dc->handle);
     delete dc;
     return TRUE;
 }

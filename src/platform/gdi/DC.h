@@ -16,7 +16,6 @@
 #include "platform/gdi/GdiTypes.h"
 #include "platform/gdi/Pen.h"
 #include "platform/gdi/Rgn.h"
-#include "platform/gdi/SurfaceDC.h"
 
 class ORVA_API CDC : public CObject {
     DECLARE_DYNAMIC(CDC)
@@ -185,5 +184,3 @@ ORVA_API int GetClipBox(HDC dc, LPRECT rect);
 ORVA_API int IntersectClipRect(HDC dc, int left, int top, int right, int bottom);
 ORVA_API int ExcludeClipRect(HDC dc, int left, int top, int right, int bottom);
 ORVA_API int SelectClipRgn(HDC dc, HRGN region);
-// The surface that a context draws on and its device origin there (for tests and the hosts).
-ORVA_API Surface* GdiSurfaceOf(HDC dc, POINT* origin = nullptr);

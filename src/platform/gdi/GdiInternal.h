@@ -4,10 +4,12 @@
 // Everything here runs on the user-interface thread only; the handle tables are not locked.
 
 #include "platform/gdi/DC.h"
+#include "platform/gdi/SurfaceDC.h"
 
 #include <cairo.h>
 #include <pango/pangocairo.h>
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -17,8 +19,16 @@ namespace gdi {
 
 enum class Kind { Pen, Brush, Font, Bitmap, Region };
 
-// A pen, brush, font, bitmap or region. Its handle is its address. One reference belongs to the
-// handle until DeleteObject; each context (and saved context state) that selects it holds one
+// Handles are small numbers from one table of drawing objects and contexts, not addresses: a
+// handle fits the 32-bit integers through which some interfaces hand it out (a chart gives its
+// image's bitmap and context as integer properties). A handle carries the generation of its
+// slot, so a stale one is refused rather than taken for the slot's next user.
+std::uintptr_t NewHandle(void* target, bool context);
+void FreeHandle(std::uintptr_t handle);
+void* HandleTarget(const void* handle, bool context); // null for a stale or foreign handle
+
+// A pen, brush, font, bitmap or region. Its handle comes from Register. One reference belongs to
+// the handle until DeleteObject; each context (and saved context state) that selects it holds one
 // more, so that an object deleted while selected stays valid until it is let go.
 struct Object {
     explicit Object(Kind k) : kind(k) {}
@@ -27,6 +37,7 @@ struct Object {
     Object& operator=(const Object&) = delete;
 
     Kind kind;
+    std::uintptr_t handle = 0;
     int references = 1;
     bool stock = false;
     bool deleted = false;
@@ -97,7 +108,7 @@ template <class T> T* Lookup(AnyGdiHandle handle, Kind kind) {
     return o != nullptr && o->kind == kind ? static_cast<T*>(o) : nullptr;
 }
 inline HGDIOBJ Handle(Object* object) {
-    return reinterpret_cast<HGDIOBJ>(object);
+    return reinterpret_cast<HGDIOBJ>(object != nullptr ? object->handle : 0);
 }
 Object* StockObject(int index);
 BitmapObject* NewBitmap(int width, int height, int bitsPerPixel);
@@ -125,6 +136,7 @@ struct DcAttributes {
 struct DcState {
     ~DcState();
 
+    std::uintptr_t handle = 0; // from NewHandle, freed by DeleteDC
     Surface* window = nullptr; // the surface of a window context; null for a memory context
     POINT origin{0, 0};        // the device origin on the surface
     RECT windowClip{0, 0, 0, 0};
@@ -156,7 +168,7 @@ struct DcState {
 
 DcState* LookupDC(HDC dc);
 inline HDC Handle(DcState* dc) {
-    return reinterpret_cast<HDC>(dc);
+    return reinterpret_cast<HDC>(dc != nullptr ? dc->handle : 0);
 }
 
 // Pixels: 0xFFRRGGBB on opaque surfaces.

@@ -6,16 +6,44 @@
 #include <cstring>
 #include <map>
 #include <string>
-#include <unordered_set>
+#include <vector>
 
 namespace gdi {
 
 namespace {
 
-// Live objects, so that a stale or foreign handle is refused rather than followed.
-std::unordered_set<Object*>& LiveObjects() {
-    static std::unordered_set<Object*> objects;
-    return objects;
+// The handle table. A handle is (generation << kIndexBits) | (index + kFirstHandle): small,
+// positive as a 32-bit integer, and never one of the numbers below kFirstHandle that stand for
+// system colours where a brush is expected (COLOR_WINDOW + 1).
+constexpr unsigned kIndexBits = 20;
+constexpr std::uintptr_t kFirstHandle = 0x100;
+constexpr std::uintptr_t kIndexMask = (std::uintptr_t(1) << kIndexBits) - 1;
+constexpr std::uintptr_t kGenerationMask = 0x7FF; // keeps the handle below 2^31
+
+struct HandleSlot {
+    void* target = nullptr;
+    bool context = false;
+    std::uintptr_t generation = 0;
+};
+
+struct HandleTable {
+    std::vector<HandleSlot> slots;
+    std::vector<std::uintptr_t> free; // indices of empty slots
+};
+
+HandleTable& Handles() {
+    static HandleTable table;
+    return table;
+}
+
+HandleSlot* SlotOf(std::uintptr_t handle) {
+    HandleTable& table = Handles();
+    const std::uintptr_t index = (handle & kIndexMask) - kFirstHandle;
+    if ((handle & kIndexMask) < kFirstHandle || (handle >> kIndexBits) > kGenerationMask ||
+        index >= table.slots.size())
+        return nullptr;
+    HandleSlot& slot = table.slots[index];
+    return slot.target != nullptr && slot.generation == handle >> kIndexBits ? &slot : nullptr;
 }
 
 std::unique_ptr<CGdiObject> NewWrapper(Kind kind) {
@@ -78,22 +106,53 @@ Ref::~Ref() {
         Release(m_object);
 }
 
+std::uintptr_t NewHandle(void* target, bool context) {
+    HandleTable& table = Handles();
+    std::uintptr_t index = 0;
+    if (!table.free.empty()) {
+        index = table.free.back();
+        table.free.pop_back();
+    } else if (table.slots.size() < kIndexMask - kFirstHandle) {
+        index = table.slots.size();
+        table.slots.emplace_back();
+    } else {
+        return 0; // a million live objects: the table is full
+    }
+    HandleSlot& slot = table.slots[index];
+    slot.target = target;
+    slot.context = context;
+    return (slot.generation << kIndexBits) | (index + kFirstHandle);
+}
+
+void FreeHandle(std::uintptr_t handle) {
+    if (HandleSlot* slot = SlotOf(handle)) {
+        slot->target = nullptr;
+        slot->generation = (slot->generation + 1) & kGenerationMask;
+        Handles().free.push_back((handle & kIndexMask) - kFirstHandle);
+    }
+}
+
+void* HandleTarget(const void* handle, bool context) {
+    const HandleSlot* slot = SlotOf(reinterpret_cast<std::uintptr_t>(handle));
+    return slot != nullptr && slot->context == context ? slot->target : nullptr;
+}
+
 void Register(Object* object) {
-    LiveObjects().insert(object);
+    if (object->handle == 0) // stock objects pass through here twice
+        object->handle = NewHandle(object, false);
 }
 
 void Release(Object* object) {
     if (--object->references > 0 || object->stock)
         return;
-    LiveObjects().erase(object);
+    FreeHandle(object->handle);
     delete object;
 }
 
 Object* Lookup(AnyGdiHandle handle) {
     // An object deleted while still selected lives on for its contexts but has no handle.
-    auto* object = reinterpret_cast<Object*>(handle.handle);
-    return object != nullptr && LiveObjects().count(object) != 0 && !object->deleted ? object
-                                                                                     : nullptr;
+    auto* object = static_cast<Object*>(HandleTarget(handle.handle, false));
+    return object != nullptr && !object->deleted ? object : nullptr;
 }
 
 BitmapObject* NewBitmap(int width, int height, int bitsPerPixel) {

@@ -132,8 +132,10 @@ int LayoutWidth(PangoLayout* layout) {
     return logical.width;
 }
 
-// Shows the layout with its first baseline at `top` plus the font's ascent.
-void Show(DcState* dc, FontObject* font, PangoLayout* layout, int x, int top, const RECT* clip) {
+// Shows the layout with its first baseline at `top` plus the font's ascent; through its glyphs
+// alone when the cache has them.
+void Show(DcState* dc, FontObject* font, PangoLayout* layout, const GlyphRuns* glyphs, int x,
+          int top, const RECT* clip) {
     cairo_t* cr = dc->Cairo();
     if (clip != nullptr) {
         cairo_save(cr);
@@ -142,8 +144,12 @@ void Show(DcState* dc, FontObject* font, PangoLayout* layout, int x, int top, co
         cairo_clip(cr);
     }
     SetSource(cr, dc->attributes.textColor);
-    cairo_move_to(cr, x, top + Metrics(font).tmAscent - font->baseline);
-    pango_cairo_show_layout(cr, layout);
+    const int y = top + Metrics(font).tmAscent - font->baseline;
+    cairo_move_to(cr, x, y);
+    if (glyphs != nullptr)
+        glyphs->Show(cr, x, y);
+    else
+        pango_cairo_show_layout(cr, layout);
     if (clip != nullptr)
         cairo_restore(cr);
 }
@@ -171,7 +177,7 @@ int EndEllipsis(FontObject* font, PreparedText& prepared, int width) {
     auto widthWith = [&](int characters) {
         candidate.assign(text, 0, std::size_t(starts[std::size_t(characters)]));
         candidate += "...";
-        return LayoutWidth(Layout(font, candidate.data(), int(candidate.size())));
+        return SharedTextLayouts().Shape(font, candidate).width;
     };
     int low = 0, high = int(starts.size()) - 1; // the longest prefix that fits lies in [low, high]
     while (low < high) {
@@ -200,15 +206,17 @@ void SetTabs(PangoLayout* layout, UINT format, const TEXTMETRIC& tm) {
 // The layout of a text on one line, and its width. Plain texts come shaped from the cache;
 // prefixed ones and those with tabs to expand are laid out afresh.
 PangoLayout* SingleLine(FontObject* font, const PreparedText& prepared, UINT format,
-                        const TEXTMETRIC& tm, int& width) {
+                        const TEXTMETRIC& tm, int& width, const GlyphRuns*& glyphs) {
     const std::string& text = prepared.text;
     width = 0;
+    glyphs = nullptr;
     if (text.empty())
         return nullptr;
     const bool tabs = (format & DT_EXPANDTABS) && text.find('\t') != std::string::npos;
     if (prepared.underlines.empty() && !tabs) {
         const ShapedText shaped = SharedTextLayouts().Shape(font, text);
         width = shaped.width;
+        glyphs = shaped.glyphs;
         return shaped.layout;
     }
     PangoLayout* layout = Layout(font, text.data(), int(text.size()), &prepared.underlines);
@@ -234,14 +242,22 @@ int CDC::DrawText(LPCTSTR raw, int count, LPRECT rect, UINT format) {
     int lineHeight = tm.tmHeight + ((format & DT_EXTERNALLEADING) ? tm.tmExternalLeading : 0);
 
     PangoLayout* layout = nullptr;
+    const GlyphRuns* glyphs = nullptr;
     int width, height;
     if (singleLine) {
-        layout = SingleLine(font, prepared, format, tm, width);
+        layout = SingleLine(font, prepared, format, tm, width, glyphs);
         height = lineHeight;
         if ((format & DT_END_ELLIPSIS) && (format & DT_CALCRECT) == 0 && width > rectWidth &&
             !text.empty()) {
             width = EndEllipsis(font, prepared, rectWidth);
-            layout = Layout(font, text.data(), int(text.size()), &prepared.underlines);
+            if (prepared.underlines.empty() && text.find('\t') == std::string::npos) {
+                const ShapedText shaped = SharedTextLayouts().Shape(font, text);
+                layout = shaped.layout;
+                glyphs = shaped.glyphs;
+            } else {
+                layout = Layout(font, text.data(), int(text.size()), &prepared.underlines);
+                glyphs = nullptr;
+            }
         }
     } else {
         layout = Layout(font, text.data(), int(text.size()), &prepared.underlines);
@@ -286,7 +302,7 @@ int CDC::DrawText(LPCTSTR raw, int count, LPRECT rect, UINT format) {
     if (dc->attributes.bkMode == OPAQUE && !text.empty())
         FillBackground(dc, {at.x, at.y, at.x + width, at.y + height}, clip);
     if (!text.empty())
-        Show(dc, font, layout, wrapped ? clipBox.left : at.x, at.y, clip);
+        Show(dc, font, layout, glyphs, wrapped ? clipBox.left : at.x, at.y, clip);
     return (singleLine && (format & (DT_VCENTER | DT_BOTTOM))) ? y - rect->top + height : height;
 }
 
@@ -353,7 +369,7 @@ BOOL CDC::ExtTextOut(int x, int y, UINT options, LPCRECT rect, LPCTSTR raw, UINT
     POINT at = dc->ToSurface(left, top);
     if (dc->attributes.bkMode == OPAQUE && (options & ETO_OPAQUE) == 0)
         FillBackground(dc, {at.x, at.y, at.x + width, at.y + tm.tmHeight}, clip);
-    Show(dc, font, layout, at.x, at.y, clip);
+    Show(dc, font, layout, shaped.glyphs, at.x, at.y, clip);
     return TRUE;
 }
 

@@ -8,26 +8,42 @@
 namespace gdi {
 
 TextLayoutCache::~TextLayoutCache() {
-    for (Entry& entry : m_entries)
-        g_object_unref(entry.shaped.layout);
+    Clear();
     if (m_uncached != nullptr)
         g_object_unref(m_uncached);
 }
 
-// What of a font changes the layout: the description that Pango shapes with, and the lines
-// drawn with the text. Fonts made anew for each paint, and faces mapped to the same installed
-// font, share their entries.
-void TextLayoutCache::MakeKey(const FontObject* font, std::string_view text) {
+// Fonts made anew for each paint, and faces mapped to the same installed font, share their
+// number and so their entries. A program has a handful of fonts: a search is quick.
+std::uint32_t TextLayoutCache::FontNumber(const FontObject* font) {
     const PangoFontDescription* description = font->description;
-    const int numbers[] = {pango_font_description_get_size(description),
+    const char* family = pango_font_description_get_family(description);
+    FontIdentity identity{{pango_font_description_get_size(description),
                            int(pango_font_description_get_weight(description)),
                            int(pango_font_description_get_style(description)),
-                           font->log.lfUnderline != 0, font->log.lfStrikeOut != 0};
-    const char* family = pango_font_description_get_family(description);
-    m_key.assign(reinterpret_cast<const char*>(numbers), sizeof numbers);
-    m_key.append(family != nullptr ? family : "");
-    m_key.push_back('\0');
+                           font->log.lfUnderline != 0, font->log.lfStrikeOut != 0},
+                          family != nullptr ? family : ""};
+    for (size_t i = 0; i < m_fonts.size(); ++i)
+        if (m_fonts[i] == identity)
+            return std::uint32_t(i);
+    if (m_fonts.size() == kMostFonts)
+        Clear();
+    m_fonts.push_back(std::move(identity));
+    return std::uint32_t(m_fonts.size() - 1);
+}
+
+void TextLayoutCache::MakeKey(const FontObject* font, std::string_view text) {
+    const std::uint32_t number = FontNumber(font);
+    m_key.assign(reinterpret_cast<const char*>(&number), sizeof number);
     m_key.append(text);
+}
+
+void TextLayoutCache::Clear() {
+    m_index.clear();
+    for (Entry& entry : m_entries)
+        g_object_unref(entry.shaped.layout);
+    m_entries.clear();
+    m_fonts.clear();
 }
 
 void TextLayoutCache::Configure(PangoLayout* layout, FontObject* font, std::string_view text) {
@@ -46,6 +62,66 @@ void TextLayoutCache::Configure(PangoLayout* layout, FontObject* font, std::stri
     }
 }
 
+bool GlyphRuns::Take(PangoLayout* layout) {
+    m_runs.clear();
+    m_glyphs.clear();
+    if (pango_layout_get_line_count(layout) != 1 || pango_layout_get_attributes(layout) != nullptr)
+        return false;
+    PangoLayoutIter* iter = pango_layout_get_iter(layout);
+    bool ok = true;
+    do {
+        PangoLayoutRun* run = pango_layout_iter_get_run_readonly(iter);
+        if (run == nullptr)
+            continue;
+        cairo_scaled_font_t* font =
+            pango_cairo_font_get_scaled_font(PANGO_CAIRO_FONT(run->item->analysis.font));
+        if (font == nullptr || cairo_scaled_font_status(font) != CAIRO_STATUS_SUCCESS) {
+            ok = false;
+            break;
+        }
+        PangoRectangle logical;
+        pango_layout_iter_get_run_extents(iter, nullptr, &logical);
+        m_runs.push_back(
+            {font, logical.x, pango_layout_iter_get_baseline(iter), m_glyphs.size(), 0});
+        int position = 0;
+        for (int i = 0; i < run->glyphs->num_glyphs && ok; ++i) {
+            const PangoGlyphInfo& glyph = run->glyphs->glyphs[i];
+            ok = (glyph.glyph & PANGO_GLYPH_UNKNOWN_FLAG) == 0;
+            if (ok && glyph.glyph != PANGO_GLYPH_EMPTY)
+                m_glyphs.push_back({glyph.glyph,
+                                    double(position + glyph.geometry.x_offset) / PANGO_SCALE,
+                                    glyph.geometry.y_offset});
+            position += glyph.geometry.width;
+        }
+        m_runs.back().glyphCount = m_glyphs.size() - m_runs.back().firstGlyph;
+    } while (ok && pango_layout_iter_next_run(iter));
+    pango_layout_iter_free(iter);
+    if (!ok) {
+        m_runs.clear();
+        m_glyphs.clear();
+    }
+    return ok;
+}
+
+void GlyphRuns::Show(cairo_t* cr, double x, double y) const {
+    for (const Run& run : m_runs) {
+        // The same sums in the same order as Pango's renderer, for the same pixels.
+        const double baseX = x + double(run.x) / PANGO_SCALE;
+        const double baseY = y + double(run.baseline) / PANGO_SCALE;
+        m_placed.clear();
+        for (size_t i = run.firstGlyph; i < run.firstGlyph + run.glyphCount; ++i) {
+            const Glyph& glyph = m_glyphs[i];
+            m_placed.push_back(
+                {glyph.index, baseX + glyph.x,
+                 glyph.yOffset == 0 ? baseY : baseY + double(glyph.yOffset) / PANGO_SCALE});
+        }
+        cairo_save(cr);
+        cairo_set_scaled_font(cr, run.font);
+        cairo_show_glyphs(cr, m_placed.data(), int(m_placed.size()));
+        cairo_restore(cr);
+    }
+}
+
 namespace {
 
 int LogicalWidth(PangoLayout* layout) {
@@ -61,12 +137,18 @@ ShapedText TextLayoutCache::Shape(FontObject* font, std::string_view text) {
         if (m_uncached == nullptr)
             m_uncached = pango_layout_new(pango_layout_get_context(SharedLayout()));
         Configure(m_uncached, font, text);
-        return {m_uncached, LogicalWidth(m_uncached)};
+        return {m_uncached, LogicalWidth(m_uncached), nullptr};
     }
     MakeKey(font, text);
     if (const auto found = m_index.find(m_key); found != m_index.end()) {
+        Entry& entry = *found->second;
         m_entries.splice(m_entries.begin(), m_entries, found->second);
-        return found->second->shaped;
+        // A text seen once is drawn by Pango; its glyphs are taken when it comes back.
+        if (!entry.glyphsTaken) {
+            entry.glyphsTaken = true;
+            entry.shaped.glyphs = entry.runs.Take(entry.shaped.layout) ? &entry.runs : nullptr;
+        }
+        return entry.shaped;
     }
     PangoLayout* layout = nullptr;
     if (m_entries.size() < kCapacity) {
@@ -81,7 +163,8 @@ ShapedText TextLayoutCache::Shape(FontObject* font, std::string_view text) {
     Entry& entry = m_entries.front();
     entry.key = m_key;
     Configure(layout, font, text);
-    entry.shaped = {layout, LogicalWidth(layout)};
+    entry.shaped = {layout, LogicalWidth(layout), nullptr};
+    entry.glyphsTaken = false;
     m_index.emplace(entry.key, m_entries.begin());
     return entry.shaped;
 }

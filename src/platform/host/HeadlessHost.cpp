@@ -9,7 +9,7 @@
 HeadlessHost::HeadlessHost() = default;
 HeadlessHost::~HeadlessHost() = default;
 
-Surface* HeadlessHost::CreateWindowSurface(HWND window, const RECT& screenRect) {
+Surface* HeadlessHost::CreateWindowSurface(HWND window, const RECT& screenRect, DWORD) {
     const CRect r(screenRect);
     auto& slot = m_surfaces[window];
     slot = std::make_unique<Surface>(std::max(r.Width(), 1), std::max(r.Height(), 1));

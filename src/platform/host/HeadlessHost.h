@@ -15,12 +15,14 @@ public:
 
     const char* Name() const override { return "headless"; }
 
-    Surface* CreateWindowSurface(HWND window, const RECT& screenRect) override;
+    Surface* CreateWindowSurface(HWND window, const RECT& screenRect, DWORD style) override;
     Surface* GetWindowSurface(HWND window) override;
     void MoveWindowSurface(HWND window, const RECT& screenRect) override;
     void DestroyWindowSurface(HWND window) override;
     void ShowWindowSurface(HWND, bool) override {}
     void SetWindowTitle(HWND, const char*) override {}
+    void SetWindowSizeLimits(HWND, SIZE, SIZE) override {}
+    void SetWindowIcon(HWND, int, const std::uint32_t*) override {}
     void Present(HWND) override {}
 
     DWORD Now() const override { return m_now; }

@@ -3,13 +3,15 @@
 // Host: where the windows live. The window manager keeps all window state itself and asks the
 // host only for what differs between running headless and running on a display: the pixels
 // of each top-level window, the clock, waiting for input, the system clipboard's text, the
-// cursor shape, and the message box. A host delivers the user's input through
-// platform/window/Input.h. The headless host is installed unless the application installs
+// cursor shape, and the message box. A host delivers the user's input and what the display
+// did to its windows through platform/window/Input.h, and never calls the window layer to decide
+// what an event means. The headless host is installed unless the application installs
 // another one (the SDL host) at start-up, before it creates a window.
 
 #include "platform/base/Export.h"
 #include "platform/base/WinTypes.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -21,13 +23,19 @@ public:
     virtual ~Host() = default;
     virtual const char* Name() const = 0;
 
-    // Top-level windows: the host owns one surface for each, sized to the whole window.
-    virtual Surface* CreateWindowSurface(HWND window, const RECT& screenRect) = 0;
+    // Top-level windows: the host owns one surface for each, sized to the whole window. The
+    // style tells a display host how to show it: a WS_POPUP window without a caption is a
+    // pop-up (a menu, a list) that shows above its owner, bare and without a task-bar entry.
+    virtual Surface* CreateWindowSurface(HWND window, const RECT& screenRect, DWORD style) = 0;
     virtual Surface* GetWindowSurface(HWND window) = 0;
     virtual void MoveWindowSurface(HWND window, const RECT& screenRect) = 0;
     virtual void DestroyWindowSurface(HWND window) = 0;
     virtual void ShowWindowSurface(HWND window, bool show) = 0;
     virtual void SetWindowTitle(HWND window, const char* title) = 0;
+    // The window's icon on a display: `size` * `size` ARGB pixels, row by row.
+    virtual void SetWindowIcon(HWND window, int size, const std::uint32_t* argb) = 0;
+    // The smallest and largest sizes a user may give the window on a display.
+    virtual void SetWindowSizeLimits(HWND window, SIZE minimum, SIZE maximum) = 0;
     // Painting of the window has finished for now: a display host shows the surface.
     virtual void Present(HWND window) = 0;
 

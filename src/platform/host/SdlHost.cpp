@@ -1,15 +1,13 @@
 #include "platform/host/SdlHost.h"
 
-#include "platform/host/OleDropTarget.h"
-
+#include "platform/base/Messages.h"
 #include "platform/base/Rect.h"
 #include "platform/gdi/Surface.h"
 #include "platform/host/OleDropTarget.h"
 #include "platform/host/SdlKeys.h"
 #include "platform/host/SdlMessageBox.h"
 #include "platform/window/Input.h"
-#include "platform/window/KeyboardLayout.h"
-#include "platform/window/WindowApi.h"
+#include "platform/window/WindowStyles.h"
 
 #include <SDL2/SDL.h>
 #include <cairo.h>
@@ -21,6 +19,7 @@
 
 struct SdlHost::Window {
     std::unique_ptr<Surface> surface;
+    CRect screenRect; // where the window layer last placed the window
     SDL_Window* window = nullptr;
     SDL_Renderer* renderer = nullptr;
     SDL_Texture* texture = nullptr;
@@ -42,13 +41,14 @@ struct SdlHost::Window {
 namespace {
 
 // The framework draws its own frame, so only windows with a caption get the display's
-// decorations too (and with them moving and closing by the user); popups stay bare.
+// decorations too (and with them moving and closing by the user); pop-ups stay bare, above
+// their owner at their own screen position, and out of the task bar.
 Uint32 SdlWindowFlags(DWORD style) {
     Uint32 flags = SDL_WINDOW_HIDDEN;
     if ((style & WS_CAPTION) != WS_CAPTION) {
         flags |= SDL_WINDOW_BORDERLESS;
         if (style & WS_POPUP)
-            flags |= SDL_WINDOW_SKIP_TASKBAR | SDL_WINDOW_POPUP_MENU;
+            flags |= SDL_WINDOW_SKIP_TASKBAR | SDL_WINDOW_POPUP_MENU | SDL_WINDOW_ALWAYS_ON_TOP;
     }
     if (style & WS_THICKFRAME)
         flags |= SDL_WINDOW_RESIZABLE;
@@ -136,15 +136,15 @@ std::uint32_t SdlHost::SdlWindowId(HWND window) const {
     return it != m_windows.end() && it->second->window ? SDL_GetWindowID(it->second->window) : 0;
 }
 
-Surface* SdlHost::CreateWindowSurface(HWND window, const RECT& screenRect) {
+Surface* SdlHost::CreateWindowSurface(HWND window, const RECT& screenRect, DWORD style) {
     const CRect r(screenRect);
     const int width = std::max(r.Width(), 1);
     const int height = std::max(r.Height(), 1);
     auto w = std::make_unique<Window>();
     w->surface = std::make_unique<Surface>(width, height);
+    w->screenRect = r;
     // Without an SDL window the surface still works; the window just never shows.
-    w->window = SDL_CreateWindow("", r.left, r.top, width, height,
-                                 SdlWindowFlags(DWORD(GetWindowLong(window, GWL_STYLE))));
+    w->window = SDL_CreateWindow("", r.left, r.top, width, height, SdlWindowFlags(style));
     if (w->window)
         w->renderer = CreateRenderer(w->window);
     Surface* surface = w->surface.get();
@@ -164,6 +164,7 @@ void SdlHost::MoveWindowSurface(HWND window, const RECT& screenRect) {
     const CRect r(screenRect);
     const int width = std::max(r.Width(), 1);
     const int height = std::max(r.Height(), 1);
+    w->screenRect = r;
     if (w->surface->Width() != width || w->surface->Height() != height)
         w->surface->Resize(width, height);
     if (!w->window)
@@ -198,6 +199,28 @@ void SdlHost::ShowWindowSurface(HWND window, bool show) {
 void SdlHost::SetWindowTitle(HWND window, const char* title) {
     if (Window* w = Find(window); w && w->window)
         SDL_SetWindowTitle(w->window, Utf8FromLatin1(title ? title : "").c_str());
+}
+
+void SdlHost::SetWindowSizeLimits(HWND window, SIZE minimum, SIZE maximum) {
+    if (Window* w = Find(window); w && w->window) {
+        SDL_SetWindowMinimumSize(w->window, std::max<int>(minimum.cx, 1),
+                                 std::max<int>(minimum.cy, 1));
+        SDL_SetWindowMaximumSize(w->window, std::max<int>(maximum.cx, 1),
+                                 std::max<int>(maximum.cy, 1));
+    }
+}
+
+void SdlHost::SetWindowIcon(HWND window, int size, const std::uint32_t* argb) {
+    Window* w = Find(window);
+    if (!w || !w->window || !argb || size <= 0)
+        return;
+    // SDL copies the pixels; the surface only borrows them for the call.
+    SDL_Surface* icon = SDL_CreateRGBSurfaceWithFormatFrom(
+        const_cast<std::uint32_t*>(argb), size, size, 32, size * 4, SDL_PIXELFORMAT_ARGB8888);
+    if (icon) {
+        SDL_SetWindowIcon(w->window, icon);
+        SDL_FreeSurface(icon);
+    }
 }
 
 void SdlHost::Present(HWND window) {
@@ -294,13 +317,17 @@ bool SdlHost::WaitForEvents(std::optional<DWORD> deadline) {
         while (SDL_PollEvent(&event))
             Deliver(event);
     }
+    // The focus going from one of our windows to another is no loss for the application.
+    if (m_focusLost && !SDL_GetKeyboardFocus())
+        InjectActivation(nullptr, false);
+    m_focusLost = false;
     return true;
 }
 
 POINT SdlHost::ToScreen(HWND hwnd, int x, int y) const {
-    RECT rect{};
-    GetWindowRect(hwnd, &rect);
-    return POINT{rect.left + x, rect.top + y};
+    const auto it = m_windows.find(hwnd);
+    const CPoint origin = it == m_windows.end() ? CPoint() : it->second->screenRect.TopLeft();
+    return POINT{origin.x + x, origin.y + y};
 }
 
 void SdlHost::Deliver(const SDL_Event& event) {
@@ -336,24 +363,11 @@ void SdlHost::Deliver(const SDL_Event& event) {
         const UINT vk = VirtualKeyFromSdlKeycode(event.key.keysym.sym);
         if (!vk)
             break;
-        const bool down = event.type == SDL_KEYDOWN;
-        InjectKey(vk, down);
-        if (down) {
-            const Uint16 mod = event.key.keysym.mod;
-            const auto ch = CharFromKey(vk, mod & KMOD_SHIFT, mod & KMOD_CTRL);
-            m_translatedChar = ch ? int(static_cast<unsigned char>(*ch)) : -1;
-        }
+        InjectKey(vk, event.type == SDL_KEYDOWN);
         break;
     }
     case SDL_TEXTINPUT:
-        for (const char c : Latin1FromUtf8(event.text.text)) {
-            const int ch = static_cast<unsigned char>(c);
-            if (ch == m_translatedChar)
-                m_translatedChar = -1;
-            else
-                InjectChar(UINT(ch));
-        }
-        m_translatedChar = -1;
+        InjectText(Latin1FromUtf8(event.text.text).c_str());
         break;
     case SDL_WINDOWEVENT:
         if (HWND hwnd = FromSdlId(event.window.windowID))
@@ -375,38 +389,26 @@ void SdlHost::Deliver(const SDL_Event& event) {
 }
 
 void SdlHost::DeliverWindowEvent(HWND hwnd, const SDL_Event& event) {
-    constexpr UINT keepRest = SWP_NOZORDER | SWP_NOACTIVATE;
     switch (event.window.event) {
     case SDL_WINDOWEVENT_CLOSE:
-        PostMessage(hwnd, WM_CLOSE);
+        InjectCloseRequest(hwnd);
         break;
     case SDL_WINDOWEVENT_EXPOSED:
         // The surface holds the whole window, so showing it again is all an exposure needs.
         if (Window* w = Find(hwnd))
             w->pending = true;
         break;
-    case SDL_WINDOWEVENT_MOVED: {
-        RECT rect{};
-        GetWindowRect(hwnd, &rect);
-        if (rect.left != event.window.data1 || rect.top != event.window.data2)
-            SetWindowPos(hwnd, nullptr, event.window.data1, event.window.data2, 0, 0,
-                         SWP_NOSIZE | keepRest);
+    case SDL_WINDOWEVENT_MOVED:
+        InjectWindowMoved(hwnd, POINT{event.window.data1, event.window.data2});
         break;
-    }
-    case SDL_WINDOWEVENT_SIZE_CHANGED: {
-        const CRect rect = [hwnd] {
-            RECT r{};
-            GetWindowRect(hwnd, &r);
-            return CRect(r);
-        }();
-        if (rect.Width() != event.window.data1 || rect.Height() != event.window.data2)
-            SetWindowPos(hwnd, nullptr, 0, 0, event.window.data1, event.window.data2,
-                         SWP_NOMOVE | keepRest);
+    case SDL_WINDOWEVENT_SIZE_CHANGED:
+        InjectWindowResized(hwnd, SIZE{event.window.data1, event.window.data2});
         break;
-    }
     case SDL_WINDOWEVENT_FOCUS_GAINED:
-        if (GetActiveWindow() != hwnd && IsWindowEnabled(hwnd))
-            SetActiveWindow(hwnd);
+        InjectActivation(hwnd, true);
+        break;
+    case SDL_WINDOWEVENT_FOCUS_LOST:
+        m_focusLost = true;
         break;
     default:
         break;
@@ -445,7 +447,7 @@ void SdlHost::SetCursorShape(HCURSOR cursor) {
 }
 
 int SdlHost::ShowMessageBox(HWND owner, const char* text, const char* caption, UINT type) {
-    Window* w = Find(owner ? GetAncestor(owner, GA_ROOT) : nullptr);
+    Window* w = Find(owner);
     return ShowSdlMessageBox(w && w->shown ? w->window : nullptr, text, caption, type);
 }
 

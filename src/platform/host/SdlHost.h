@@ -3,7 +3,7 @@
 // The display host: each visible top-level window is a real SDL window showing the window's
 // surface, time is the system's, input comes from the display and the clipboard is the
 // system's. The window manager stays the one authority on geometry: what the user does to a
-// window (moving, resizing, closing) goes back to it as the framework's calls and messages.
+// window (moving, resizing, closing) goes to it as events through Input.h, and it decides.
 
 #include "platform/host/Host.h"
 
@@ -25,12 +25,14 @@ public:
 
     const char* Name() const override { return "sdl"; }
 
-    Surface* CreateWindowSurface(HWND window, const RECT& screenRect) override;
+    Surface* CreateWindowSurface(HWND window, const RECT& screenRect, DWORD style) override;
     Surface* GetWindowSurface(HWND window) override;
     void MoveWindowSurface(HWND window, const RECT& screenRect) override;
     void DestroyWindowSurface(HWND window) override;
     void ShowWindowSurface(HWND window, bool show) override;
     void SetWindowTitle(HWND window, const char* title) override;
+    void SetWindowSizeLimits(HWND window, SIZE minimum, SIZE maximum) override;
+    void SetWindowIcon(HWND window, int size, const std::uint32_t* argb) override;
     // Marks the window for showing; the pixels go to the display before the host next waits,
     // so that a burst of paints costs one upload.
     void Present(HWND window) override;
@@ -68,9 +70,7 @@ private:
     std::map<HWND, std::unique_ptr<Window>> m_windows;
     std::map<UINT_PTR, SDL_Cursor*> m_cursors;
     std::uint64_t m_start;
-    // The character that the framework's own layout makes of the last key pressed; the same
-    // character arriving as typed text is not delivered twice.
-    int m_translatedChar = -1;
+    bool m_focusLost = false; // one of the windows lost the focus in the events being delivered
 };
 
 // Installs the SDL host when a display is there ($DISPLAY or $WAYLAND_DISPLAY set and SDL's

@@ -1,6 +1,7 @@
 #include "platform/testing/UiDriver.h"
 
 #include "platform/gdi/DC.h"
+#include "platform/gdi/SurfaceDC.h"
 #include "platform/host/Host.h"
 #include "platform/window/Input.h"
 #include "platform/window/KeyboardLayout.h"

@@ -116,6 +116,7 @@ LRESULT ButtonBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             ::ReleaseCapture();
         m_mouseHeld = false;
         SetPushed(false);
+        Redraw(); // the focus rectangle goes
         return 0;
     case WM_ENABLE:
         Redraw();

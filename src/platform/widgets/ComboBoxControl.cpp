@@ -11,7 +11,6 @@
 #include "platform/system/SystemMetrics.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstring>
 #include <strings.h>
 
@@ -27,7 +26,9 @@ bool KeyDown(int key) {
 
 // The edit child hands the keys that work the list to the combo, as the framework's combo edit
 // does; a class that subclasses the edit later sees them first.
-WNDPROC editProcedure = nullptr; // the "Edit" class procedure; shared, set once
+// The "Edit" class procedure, the same for every combo's edit; the user-interface thread alone
+// touches it.
+WNDPROC editProcedure = nullptr;
 LRESULT ComboEditProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND combo = ::GetParent(hwnd);
     switch (message) {

@@ -27,6 +27,13 @@ LRESULT ComboListBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_MOUSEACTIVATE:
         return MA_NOACTIVATE;
+    case WM_ACTIVATE:
+        // A display may give the pop-up the input focus of its own; the list never takes the
+        // focus from its combo, and the combo's window stays the active one.
+        if (LOWORD(wParam) != WA_INACTIVE)
+            if (const HWND owner = ::GetWindow(Window(), GW_OWNER))
+                ::SetActiveWindow(owner);
+        return 0;
     case WM_MOUSEMOVE:
         if (const int row = RowAt(point); row >= 0)
             SetHot(row);
@@ -89,9 +96,12 @@ LRESULT ComboListBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 void ComboListBehaviour::Open(HWND combo, const CRect& screenRect, int hot, bool pressHeld) {
     m_combo = combo;
     m_pressHeld = pressHeld;
+    const ComboBehaviour* owner = Combo();
+    if (!owner)
+        return;
     ::SendMessage(Window(), WM_SETFONT, ::SendMessage(combo, WM_GETFONT, 0, 0), 0);
-    const int count = Combo() ? int(Combo()->Items().size()) : 0;
-    const int rows = std::max(1, (screenRect.Height() - 2) / Combo()->ItemHeight());
+    const int count = int(owner->Items().size());
+    const int rows = std::max(1, (screenRect.Height() - 2) / owner->ItemHeight());
     const DWORD style = DWORD(::GetWindowLong(Window(), GWL_STYLE));
     const DWORD wanted = count > rows ? (style | WS_VSCROLL) : (style & ~WS_VSCROLL);
     ::SetWindowLong(Window(), GWL_STYLE, LONG(wanted));
@@ -200,10 +210,14 @@ void ComboListBehaviour::OnButtonUp(CPoint client) {
 void ComboListBehaviour::Paint(CDC& dc) {
     RECT clientRect;
     ::GetClientRect(Window(), &clientRect);
-    dc.FillSolidRect(&clientRect, GetSysColor(COLOR_WINDOW));
     const ComboBehaviour* combo = Combo();
     if (!combo)
         return;
+    // The combo's parent colours the list, told of it by the combo's handle.
+    const HBRUSH brush =
+        ControlColors(m_combo, dc, WM_CTLCOLORLISTBOX, COLOR_WINDOW, COLOR_WINDOWTEXT);
+    ::FillRect(dc.GetSafeHdc(), &clientRect, brush);
+    const COLORREF text = dc.GetTextColor();
     CFont* old = dc.SelectObject(ControlFont(Window()));
     dc.SetBkMode(TRANSPARENT);
     const int height = combo->ItemHeight();
@@ -215,7 +229,7 @@ void ComboListBehaviour::Paint(CDC& dc) {
         const bool hot = row == m_hot;
         if (hot)
             dc.FillSolidRect(&r, GetSysColor(COLOR_HIGHLIGHT));
-        dc.SetTextColor(GetSysColor(hot ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+        dc.SetTextColor(hot ? GetSysColor(COLOR_HIGHLIGHTTEXT) : text);
         CRect text = r;
         text.left += kTextIndent;
         dc.DrawText(items[size_t(row)].text.c_str(), -1, &text,

@@ -59,7 +59,7 @@ using BehaviourFactory = std::unique_ptr<ControlBehaviour> (*)(HWND hwnd);
 // The procedure behind every control class: finds the window's behaviour (making it at
 // WM_NCCREATE) and keeps it alive while any of its handlers runs.
 LRESULT RunBehaviour(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, BehaviourFactory make);
-// The behaviour of a control window of the given kind, or null.
+// The behaviour behind a standard control's window, or null for any other window.
 ControlBehaviour* FindBehaviour(HWND hwnd);
 
 template <class Behaviour>

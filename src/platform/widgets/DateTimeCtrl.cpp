@@ -4,10 +4,6 @@
 
 #include "platform/widgets/MonthCalCtrl.h"
 
-CDateTimeCtrl::CDateTimeCtrl() {
-    RegisterDateTimePickerClass();
-}
-
 BOOL CDateTimeCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
     return CWnd::Create(DATETIMEPICK_CLASS, nullptr, style, rect, parent, id);
 }

@@ -30,14 +30,8 @@ struct NMDATETIMECHANGE {
     SYSTEMTIME st;
 };
 
-// Registers the picker's window class (and the calendar's); the first CDateTimeCtrl and the
-// library's start-up call it, and calling it again does nothing.
-ORVA_API BOOL RegisterDateTimePickerClass();
-
 class ORVA_API CDateTimeCtrl : public CWnd {
 public:
-    CDateTimeCtrl();
-
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
 
     BOOL GetTime(COleDateTime& time) const;

@@ -2,7 +2,7 @@
 // the keys and the mouse, the drop-down calendar, the DTM_ messages, and the window class.
 //
 // Sections: the format and its layout; painting; editing the fields; the drop-down calendar;
-// the DTM_ messages; the window procedure and its class.
+// the DTM_ messages; the window class.
 
 #include "platform/widgets/DateTimePicker.h"
 
@@ -14,12 +14,12 @@
 #include "platform/widgets/MonthCalCtrl.h"
 
 #include <algorithm>
-#include <map>
-#include <memory>
+#include <cctype>
 #include <utility>
 
 namespace {
 
+constexpr DWORD kFormatBits = 0x000C;
 constexpr int kCheckBoxSize = 13;
 constexpr int kTextIndent = 2;
 constexpr int kLowestYear = 100;
@@ -66,7 +66,7 @@ int Wrap(int value, int low, int high) {
 
 } // namespace
 
-DateTimePicker::DateTimePicker(HWND hwnd) : m_hwnd(hwnd) {
+DateTimePicker::DateTimePicker(HWND hwnd) : ControlBehaviour(hwnd) {
     GetLocalTime(&m_time);
     m_time = Normalized(m_time);
 }
@@ -76,17 +76,22 @@ DateTimePicker::DateTimePicker(HWND hwnd) : m_hwnd(hwnd) {
 std::string DateTimePicker::Picture() const {
     if (m_format)
         return *m_format;
-    if ((Style() & DTS_TIMEFORMAT) == DTS_TIMEFORMAT)
+    // Two bits choose the format; DTS_TIMEFORMAT carries DTS_UPDOWN with its own.
+    switch (Style() & kFormatBits) {
+    case DTS_TIMEFORMAT& kFormatBits:
         return RegionalSetting("sTimeFormat", "h:mm:ss tt").GetString();
-    if ((Style() & DTS_SHORTDATECENTURYFORMAT) == DTS_SHORTDATECENTURYFORMAT) {
+    case DTS_LONGDATEFORMAT:
+        return RegionalSetting("sLongDate", "dddd, MMMM d, yyyy").GetString();
+    case DTS_SHORTDATECENTURYFORMAT: {
         std::string picture = RegionalSetting("sShortDate", "M/d/yyyy").GetString();
         if (picture.find("yyyy") == std::string::npos)
             if (const auto yy = picture.find("yy"); yy != std::string::npos)
                 picture.replace(yy, 2, "yyyy");
         return picture;
     }
-    if (Style() & DTS_LONGDATEFORMAT)
-        return RegionalSetting("sLongDate", "dddd, MMMM d, yyyy").GetString();
+    default:
+        break;
+    }
     return RegionalSetting("sShortDate", "M/d/yyyy").GetString();
 }
 
@@ -113,7 +118,7 @@ std::vector<int> DateTimePicker::EditableFields(const Layout& layout) const {
 DateTimePicker::Layout DateTimePicker::MakeLayout() const {
     Layout layout;
     CRect client;
-    GetClientRect(m_hwnd, &client);
+    GetClientRect(Window(), &client);
     CRect inside = client;
     inside.DeflateRect(2, 2);
     const int buttonWidth = GetSystemMetrics(SM_CXVSCROLL);
@@ -145,12 +150,12 @@ DateTimePicker::Layout DateTimePicker::MakeLayout() const {
 
 void DateTimePicker::Paint() {
     PAINTSTRUCT ps{};
-    CDC& dc = *CDC::FromHandle(BeginPaint(m_hwnd, &ps));
+    CDC& dc = *CDC::FromHandle(BeginPaint(Window(), &ps));
     const Layout layout = MakeLayout();
-    const bool enabled = IsWindowEnabled(m_hwnd);
-    const bool focused = GetFocus() == m_hwnd;
+    const bool enabled = IsWindowEnabled(Window());
+    const bool focused = GetFocus() == Window();
     CRect client;
-    GetClientRect(m_hwnd, &client);
+    GetClientRect(Window(), &client);
     dc.FillSolidRect(client, GetSysColor(enabled ? COLOR_WINDOW : COLOR_3DFACE));
     dc.DrawEdge(&client, EDGE_SUNKEN, BF_RECT);
 
@@ -194,7 +199,7 @@ void DateTimePicker::Paint() {
         dc.DrawFrameControl(&button, DFC_SCROLL,
                             DFCS_SCROLLCOMBOBOX | inactive | (m_calendar ? DFCS_PUSHED : 0));
     }
-    EndPaint(m_hwnd, &ps);
+    EndPaint(Window(), &ps);
 }
 
 // Editing the fields.
@@ -203,7 +208,7 @@ void DateTimePicker::SelectField(int token) {
     if (token != m_field) {
         m_field = token;
         m_typedDigits = 0;
-        InvalidateRect(m_hwnd, nullptr, TRUE);
+        InvalidateRect(Window(), nullptr, TRUE);
     }
 }
 
@@ -226,17 +231,17 @@ SYSTEMTIME DateTimePicker::Clamped(SYSTEMTIME time) const {
 
 void DateTimePicker::Change(const SYSTEMTIME& time) {
     const SYSTEMTIME next = Clamped(Normalized(time));
-    if (Compare(next, m_time) == 0 && next.wSecond == m_time.wSecond)
+    if (Compare(next, m_time) == 0)
         return;
     m_time = next;
-    InvalidateRect(m_hwnd, nullptr, TRUE);
+    InvalidateRect(Window(), nullptr, TRUE);
     NotifyChange();
 }
 
 void DateTimePicker::Notify(UINT code, void* record) {
     auto* header = static_cast<NMHDR*>(record);
-    *header = {m_hwnd, UINT_PTR(GetDlgCtrlID(m_hwnd)), code};
-    SendMessage(GetParent(m_hwnd), WM_NOTIFY, header->idFrom, LPARAM(record));
+    *header = {Window(), UINT_PTR(GetDlgCtrlID(Window())), code};
+    SendMessage(GetParent(Window()), WM_NOTIFY, header->idFrom, LPARAM(record));
 }
 
 void DateTimePicker::NotifyChange() {
@@ -410,7 +415,7 @@ void DateTimePicker::OnKeyDown(UINT key) {
     case VK_SPACE:
         if (Style() & DTS_SHOWNONE) {
             m_checked = !m_checked;
-            InvalidateRect(m_hwnd, nullptr, TRUE);
+            InvalidateRect(Window(), nullptr, TRUE);
             NotifyChange();
         }
         break;
@@ -420,10 +425,9 @@ void DateTimePicker::OnKeyDown(UINT key) {
 }
 
 void DateTimePicker::OnButtonDown(CPoint point) {
-    const HWND self = m_hwnd;
-    if (GetFocus() != self) {
-        SetFocus(self);
-        if (!IsWindow(self) || GetFocus() != self) // a focus handler may have acted
+    if (GetFocus() != Window()) {
+        SetFocus(Window());
+        if (!Alive() || GetFocus() != Window()) // a focus handler may have acted
             return;
     }
     const Layout layout = MakeLayout();
@@ -436,7 +440,7 @@ void DateTimePicker::OnButtonDown(CPoint point) {
     }
     if ((Style() & DTS_SHOWNONE) && layout.checkBox.PtInRect(point)) {
         m_checked = !m_checked;
-        InvalidateRect(m_hwnd, nullptr, TRUE);
+        InvalidateRect(Window(), nullptr, TRUE);
         NotifyChange();
         return;
     }
@@ -454,13 +458,13 @@ void DateTimePicker::OnButtonDown(CPoint point) {
 // The drop-down calendar.
 
 void DateTimePicker::DropDown() {
-    if (m_calendar || UpDown() || !RegisterMonthCalendarClass())
+    if (m_calendar || UpDown())
         return;
     CRect window;
-    GetWindowRect(m_hwnd, &window);
+    GetWindowRect(Window(), &window);
     auto* calendar = new DropDownCalendar;
     // A calendar whose window could not be made has deleted itself in PostNcDestroy.
-    if (!calendar->CreatePopup(CPoint(window.left, window.bottom), CWnd::FromHandle(m_hwnd)))
+    if (!calendar->CreatePopup(CPoint(window.left, window.bottom), CWnd::FromHandle(Window())))
         return;
     m_calendar = calendar->m_hWnd;
     SendMessage(m_calendar, WM_SETFONT, WPARAM(m_font), FALSE);
@@ -471,30 +475,30 @@ void DateTimePicker::DropDown() {
         SetWindowPos(m_calendar, nullptr, window.right - size.Width(), window.bottom, 0, 0,
                      SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
-    const HWND self = m_hwnd, popup = m_calendar;
+    const HWND popup = m_calendar;
     NMHDR header{};
     Notify(DTN_DROPDOWN, &header);
     // The parent may have closed the calendar, or ended the picker.
-    if (!IsWindow(self) || !IsWindow(popup))
+    if (!Alive() || m_calendar != popup)
         return;
     ShowWindow(popup, SW_SHOWNA);
     SetCapture(popup);
     SetFocus(popup);
-    if (IsWindow(self))
-        InvalidateRect(self, nullptr, TRUE);
+    if (Alive())
+        InvalidateRect(Window(), nullptr, TRUE);
 }
 
 void DateTimePicker::CloseCalendar() {
     if (!m_calendar)
         return;
-    const HWND self = m_hwnd, calendar = std::exchange(m_calendar, nullptr);
+    const HWND calendar = std::exchange(m_calendar, nullptr);
     // The focus goes back to the picker unless the user has moved it elsewhere.
     if (GetFocus() == calendar)
-        SetFocus(self);
+        SetFocus(Window());
     DestroyWindow(calendar);
-    if (!IsWindow(self))
+    if (!Alive())
         return;
-    InvalidateRect(self, nullptr, TRUE);
+    InvalidateRect(Window(), nullptr, TRUE);
     NMHDR header{};
     Notify(DTN_CLOSEUP, &header);
 }
@@ -504,10 +508,9 @@ void DateTimePicker::OnCalendarSelect(const SYSTEMTIME& day) {
     t.wYear = day.wYear;
     t.wMonth = day.wMonth;
     t.wDay = day.wDay;
-    const HWND self = m_hwnd;
     m_checked = true;
     Change(t);
-    if (IsWindow(self))
+    if (Alive())
         CloseCalendar();
 }
 
@@ -532,7 +535,7 @@ LRESULT DateTimePicker::SetSystemTime(DWORD flags, const SYSTEMTIME* time) {
         m_checked = true;
     }
     m_typedDigits = 0;
-    InvalidateRect(m_hwnd, nullptr, TRUE);
+    InvalidateRect(Window(), nullptr, TRUE);
     return TRUE;
 }
 
@@ -543,7 +546,7 @@ LRESULT DateTimePicker::SetRange(DWORD which, const SYSTEMTIME* range) {
     m_minimum = which & GDTR_MIN ? std::optional(Normalized(range[0])) : std::nullopt;
     m_maximum = which & GDTR_MAX ? std::optional(Normalized(range[1])) : std::nullopt;
     m_time = Clamped(m_time);
-    InvalidateRect(m_hwnd, nullptr, TRUE);
+    InvalidateRect(Window(), nullptr, TRUE);
     return TRUE;
 }
 
@@ -563,7 +566,7 @@ LRESULT DateTimePicker::GetRange(SYSTEMTIME* range) const {
     return which;
 }
 
-// The window procedure and its class.
+// The messages and the window class.
 
 LRESULT DateTimePicker::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
@@ -574,12 +577,12 @@ LRESULT DateTimePicker::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         return 1;
     case WM_SIZE:
     case WM_ENABLE:
-        InvalidateRect(m_hwnd, nullptr, TRUE);
+        InvalidateRect(Window(), nullptr, TRUE);
         return 0;
     case WM_SETFONT:
         m_font = HFONT(wParam);
         if (LOWORD(lParam))
-            InvalidateRect(m_hwnd, nullptr, TRUE);
+            InvalidateRect(Window(), nullptr, TRUE);
         return 0;
     case WM_GETFONT:
         return LRESULT(m_font);
@@ -588,11 +591,11 @@ LRESULT DateTimePicker::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETFOCUS:
         if (m_field < 0)
             MoveField(0);
-        InvalidateRect(m_hwnd, nullptr, TRUE);
+        InvalidateRect(Window(), nullptr, TRUE);
         return 0;
     case WM_KILLFOCUS:
         m_typedDigits = 0;
-        InvalidateRect(m_hwnd, nullptr, TRUE);
+        InvalidateRect(Window(), nullptr, TRUE);
         if (HWND(wParam) != m_calendar)
             CloseCalendar();
         return 0;
@@ -608,7 +611,7 @@ LRESULT DateTimePicker::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             DropDown();
             return 0;
         }
-        return DefWindowProc(m_hwnd, message, wParam, lParam);
+        return Default(message, wParam, lParam);
     case WM_CHAR:
         OnChar(UINT(wParam));
         return 0;
@@ -630,9 +633,9 @@ LRESULT DateTimePicker::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         m_format = lParam != 0 ? std::optional<std::string>(reinterpret_cast<const char*>(lParam))
                                : std::nullopt;
         m_field = -1;
-        if (GetFocus() == m_hwnd)
+        if (GetFocus() == Window())
             MoveField(0);
-        InvalidateRect(m_hwnd, nullptr, TRUE);
+        InvalidateRect(Window(), nullptr, TRUE);
         return TRUE;
     case DTM_GETMONTHCAL:
         return LRESULT(m_calendar);
@@ -644,50 +647,11 @@ LRESULT DateTimePicker::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case DTM_GETRANGE:
         return GetRange(reinterpret_cast<SYSTEMTIME*>(lParam));
     default:
-        return DefWindowProc(m_hwnd, message, wParam, lParam);
+        return Default(message, wParam, lParam);
     }
 }
 
 namespace {
-
-// The state of each picker window. Single-threaded: shared without locks.
-std::map<HWND, std::unique_ptr<DateTimePicker>>& Pickers() {
-    static auto& pickers = *new std::map<HWND, std::unique_ptr<DateTimePicker>>;
-    return pickers;
-}
-
-} // namespace
-
-LRESULT DateTimePickerProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto& pickers = Pickers();
-    if (message == WM_NCCREATE) {
-        pickers[hwnd] = std::make_unique<DateTimePicker>(hwnd);
-        return DefWindowProc(hwnd, message, wParam, lParam);
-    }
-    if (message == WM_NCDESTROY) {
-        pickers.erase(hwnd);
-        return DefWindowProc(hwnd, message, wParam, lParam);
-    }
-    const auto found = pickers.find(hwnd);
-    if (found == pickers.end())
-        return DefWindowProc(hwnd, message, wParam, lParam);
-    return found->second->Handle(message, wParam, lParam);
-}
-
-BOOL RegisterDateTimePickerClass() {
-    RegisterMonthCalendarClass();
-    WNDCLASS wndClass{};
-    if (GetClassInfo(nullptr, DATETIMEPICK_CLASS, &wndClass))
-        return TRUE;
-    wndClass.style = CS_DBLCLKS;
-    wndClass.lpfnWndProc = DateTimePickerProc;
-    wndClass.hCursor = LoadCursor(nullptr, IDC_ARROW);
-    wndClass.hbrBackground = reinterpret_cast<HBRUSH>(INT_PTR(COLOR_WINDOW + 1));
-    wndClass.lpszClassName = DATETIMEPICK_CLASS;
-    return RegisterClass(&wndClass);
-}
-
-namespace {
-// Dialog templates name the class before any CDateTimeCtrl exists.
-const BOOL dateTimePickerClassRegistered = RegisterDateTimePickerClass();
+const bool registered =
+    widgets::RegisterControlClass<DateTimePicker>(DATETIMEPICK_CLASS, CS_DBLCLKS, IDC_ARROW);
 } // namespace

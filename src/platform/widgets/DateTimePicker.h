@@ -1,22 +1,22 @@
 #pragma once
 
 // The date-and-time picker's behaviour behind its window class: the value, the format and its
-// fields, the keys and the mouse, the drop-down calendar and the notifications. One object
-// lives with each window of the class, made at WM_NCCREATE and ended at WM_NCDESTROY; a
-// handler that sends a notification may see the window destroyed, and returns at once then.
+// fields, the keys and the mouse, the drop-down calendar and the notifications. A handler that
+// sends a notification may see the window destroyed, and returns at once then (Alive()).
 
 #include "platform/base/Rect.h"
 #include "platform/system/DateTimePicture.h"
+#include "platform/widgets/ControlWindow.h"
 #include "platform/window/WindowApi.h"
 
 #include <optional>
 #include <string>
 #include <vector>
 
-class DateTimePicker {
+class DateTimePicker : public widgets::ControlBehaviour {
 public:
     explicit DateTimePicker(HWND hwnd);
-    LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
     // Where the parts of the control lie, and each token of the format.
@@ -29,8 +29,6 @@ private:
     };
     Layout MakeLayout() const;
     std::string Picture() const;
-    // Read each time, so that a change of style takes effect at once.
-    DWORD Style() const { return DWORD(GetWindowLong(m_hwnd, GWL_STYLE)); }
     bool UpDown() const { return Style() & DTS_UPDOWN; }
     bool Editable(const PictureToken& token) const;
     std::vector<int> EditableFields(const Layout& layout) const;
@@ -58,7 +56,6 @@ private:
     LRESULT GetRange(SYSTEMTIME* range) const;
     SYSTEMTIME Clamped(SYSTEMTIME time) const;
 
-    HWND m_hwnd;
     SYSTEMTIME m_time{};
     bool m_checked = true;
     std::optional<std::string> m_format; // a custom picture, or the style's
@@ -69,5 +66,3 @@ private:
     std::optional<SYSTEMTIME> m_minimum, m_maximum;
     HWND m_calendar = nullptr; // the open drop-down calendar
 };
-
-LRESULT DateTimePickerProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);

@@ -28,13 +28,14 @@ CPoint PointOf(LPARAM lParam) {
 
 LRESULT EditBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-    case WM_NCCREATE:
-        m_model.SetText(reinterpret_cast<const CREATESTRUCT*>(lParam)->lpszName
-                            ? reinterpret_cast<const CREATESTRUCT*>(lParam)->lpszName
-                            : "");
+    case WM_NCCREATE: {
+        const auto* cs = reinterpret_cast<const CREATESTRUCT*>(lParam);
+        m_model.SetText(cs->lpszName && !IS_INTRESOURCE(cs->lpszName) ? cs->lpszName : "");
         return Default(message, wParam, lParam);
+    }
     case WM_CREATE:
-        return OnCreate(reinterpret_cast<const CREATESTRUCT*>(lParam));
+        ScrollToCaret();
+        return 0;
     case WM_GETDLGCODE: {
         UINT code = DLGC_WANTCHARS | DLGC_HASSETSEL | DLGC_WANTARROWS;
         if (Multiline() && (Style() & ES_WANTRETURN))
@@ -98,6 +99,15 @@ LRESULT EditBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     case WM_CAPTURECHANGED:
         m_selecting = false;
+        return 0;
+    case WM_VSCROLL:
+        if (Multiline())
+            OnVScroll(LOWORD(wParam));
+        return 0;
+    case WM_MOUSEWHEEL:
+        if (!Multiline())
+            return Default(message, wParam, lParam);
+        ScrollLines(m_firstLine - GET_WHEEL_DELTA_WPARAM(wParam) / WHEEL_DELTA * kWheelLines);
         return 0;
     case WM_SETFOCUS:
         OnSetFocus();
@@ -220,11 +230,6 @@ LRESULT EditBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
         return Default(message, wParam, lParam);
     }
-}
-
-LRESULT EditBehaviour::OnCreate(const CREATESTRUCT*) {
-    ScrollToCaret();
-    return 0;
 }
 
 // Keys and characters.
@@ -355,6 +360,40 @@ void EditBehaviour::OnChar(UINT ch) {
     else if (Style() & ES_LOWERCASE)
         c = char(std::tolower(static_cast<unsigned char>(c)));
     Change(std::string_view(&c, 1), true);
+}
+
+void EditBehaviour::OnVScroll(UINT request) {
+    if (!Notify(EN_VSCROLL))
+        return;
+    switch (request) {
+    case SB_LINEUP:
+        ScrollLines(m_firstLine - 1);
+        break;
+    case SB_LINEDOWN:
+        ScrollLines(m_firstLine + 1);
+        break;
+    case SB_PAGEUP:
+        ScrollLines(m_firstLine - VisibleLines());
+        break;
+    case SB_PAGEDOWN:
+        ScrollLines(m_firstLine + VisibleLines());
+        break;
+    case SB_THUMBTRACK:
+    case SB_THUMBPOSITION: {
+        SCROLLINFO info{sizeof info, SIF_TRACKPOS, 0, 0, 0, 0, 0};
+        ::GetScrollInfo(Window(), SB_VERT, &info);
+        ScrollLines(info.nTrackPos);
+        break;
+    }
+    case SB_TOP:
+        ScrollLines(0);
+        break;
+    case SB_BOTTOM:
+        ScrollLines(m_model.LineCount());
+        break;
+    default:
+        break;
+    }
 }
 
 // Mouse.

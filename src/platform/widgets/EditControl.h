@@ -21,7 +21,6 @@ public:
 
 private:
     // Messages (EditControl.cpp).
-    LRESULT OnCreate(const CREATESTRUCT* cs);
     void OnKeyDown(UINT key);
     void OnChar(UINT ch);
     void OnButtonDown(CPoint point, bool extend);
@@ -52,12 +51,19 @@ private:
     int WidestLine() const;
     // Scrolls so that the caret is in view; true if the view moved.
     bool ScrollToCaret();
+    // The lines of a multi-line edit: how many show, the scroll bar, and scrolling the view
+    // without moving the caret.
+    int VisibleLines() const;
+    void UpdateScrollBar();
+    void ScrollLines(int firstLine);
+    void OnVScroll(UINT request);
     void Redraw();
     void RestartCaretBlink();
     void Paint(CDC& dc);
     void PaintLine(CDC& dc, int line, const CRect& format, COLORREF text);
 
     static constexpr UINT_PTR kCaretTimer = 0xEC01; // clear of the ids a derived class picks
+    static constexpr int kWheelLines = 3;
 
     EditModel m_model;
     bool m_focused = false;

@@ -145,7 +145,35 @@ bool EditBehaviour::ScrollToCaret() {
             m_firstLine = line - visible + 1;
         m_firstLine = std::clamp(m_firstLine, 0, std::max(0, m_model.LineCount() - 1));
     }
+    UpdateScrollBar();
     return m_scrollX != oldX || m_firstLine != oldLine;
+}
+
+int EditBehaviour::VisibleLines() const {
+    return std::max(1, FormatRect().Height() / LineHeight());
+}
+
+void EditBehaviour::UpdateScrollBar() {
+    if (!Multiline() || !(Style() & WS_VSCROLL))
+        return;
+    // The bar stays, greyed, while all the text fits, as the framework's edit keeps it.
+    SCROLLINFO info{sizeof info,
+                    SIF_ALL | SIF_DISABLENOSCROLL,
+                    0,
+                    m_model.LineCount() - 1,
+                    UINT(VisibleLines()),
+                    m_firstLine,
+                    0};
+    ::SetScrollInfo(Window(), SB_VERT, &info, TRUE);
+}
+
+void EditBehaviour::ScrollLines(int firstLine) {
+    firstLine = std::clamp(firstLine, 0, std::max(0, m_model.LineCount() - VisibleLines()));
+    if (firstLine == m_firstLine)
+        return;
+    m_firstLine = firstLine;
+    UpdateScrollBar();
+    Redraw();
 }
 
 void EditBehaviour::Redraw() {

@@ -2,10 +2,6 @@
 
 #include "platform/widgets/MonthCalCtrl.h"
 
-CMonthCalCtrl::CMonthCalCtrl() {
-    RegisterMonthCalendarClass();
-}
-
 BOOL CMonthCalCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
     return CWnd::Create(MONTHCAL_CLASS, nullptr, style, rect, parent, id);
 }

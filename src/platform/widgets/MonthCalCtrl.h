@@ -42,14 +42,8 @@ constexpr UINT MCHT_CALENDARDATENEXT = MCHT_CALENDARDATE | MCHT_NEXT;
 constexpr UINT MCHT_CALENDARDATEPREV = MCHT_CALENDARDATE | MCHT_PREV;
 constexpr UINT MCHT_CALENDARDAY = MCHT_CALENDAR | 0x0002;
 
-// Registers the calendar's window class; the first CMonthCalCtrl and the library's start-up
-// call it, and calling it again does nothing.
-ORVA_API BOOL RegisterMonthCalendarClass();
-
 class ORVA_API CMonthCalCtrl : public CWnd {
 public:
-    CMonthCalCtrl();
-
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
     // A pop-up calendar below `anchor` (screen coordinates), sized to its month; it notifies
     // `notify`, which also closes it.

@@ -1,8 +1,8 @@
-// The month calendar's window procedure: its state for each window, the layout of one month,
-// painting in the classic look, and the mouse and keys.
+// The month calendar's behaviour behind its window class: the layout of one month, painting in
+// the classic look, and the mouse and keys.
 //
-// Sections: layout; the calendar's state and behaviour; painting; the window procedure and
-// its class.
+// Sections: layout; the calendar's state and behaviour; painting; the messages and the window
+// class.
 
 #include "platform/widgets/MonthCalCtrl.h"
 
@@ -12,10 +12,9 @@
 #include "platform/gdi/Pen.h"
 #include "platform/system/DateTimePicture.h"
 #include "platform/system/SysColors.h"
+#include "platform/widgets/ControlWindow.h"
 
 #include <algorithm>
-#include <map>
-#include <memory>
 #include <optional>
 
 namespace {
@@ -86,16 +85,15 @@ bool SameDay(const SYSTEMTIME& a, const SYSTEMTIME& b) {
     return a.wYear == b.wYear && a.wMonth == b.wMonth && a.wDay == b.wDay;
 }
 
-class MonthCalendar {
+class MonthCalendar : public widgets::ControlBehaviour {
 public:
-    MonthCalendar(HWND hwnd, HWND notify, DWORD style)
-        : m_hwnd(hwnd), m_notify(notify), m_popup(style & WS_POPUP) {
+    explicit MonthCalendar(HWND hwnd) : ControlBehaviour(hwnd) {
         SYSTEMTIME now{};
         GetLocalTime(&now);
         m_selection = DayOf(now.wYear, now.wMonth, now.wDay);
     }
 
-    LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
     CalendarLayout Layout() const { return LayoutFor(m_font ? m_font : DefaultFont()); }
@@ -130,9 +128,8 @@ private:
     void Notify(UINT code);
     void AskToClose();
 
-    HWND m_hwnd;
-    HWND m_notify;
-    bool m_popup;
+    HWND m_notify = nullptr; // the window it was made for
+    bool m_popup = false;
     HFONT m_font = nullptr;
     SYSTEMTIME m_selection{};
     std::optional<SYSTEMTIME> m_today;
@@ -160,11 +157,12 @@ bool MonthCalendar::MoveMonths(int months) {
 
 void MonthCalendar::Select(const SYSTEMTIME& day) {
     m_selection = day;
-    InvalidateRect(m_hwnd, nullptr, TRUE);
+    InvalidateRect(Window(), nullptr, TRUE);
 }
 
 void MonthCalendar::Notify(UINT code) {
-    NMSELCHANGE change{{m_hwnd, UINT_PTR(GetDlgCtrlID(m_hwnd)), code}, m_selection, m_selection};
+    NMSELCHANGE change{
+        {Window(), UINT_PTR(GetDlgCtrlID(Window())), code}, m_selection, m_selection};
     SendMessage(m_notify, WM_NOTIFY, change.nmhdr.idFrom, LPARAM(&change));
 }
 
@@ -175,7 +173,7 @@ void MonthCalendar::AskToClose() {
 
 UINT MonthCalendar::HitTest(CPoint point, SYSTEMTIME& day) const {
     CRect client;
-    GetClientRect(m_hwnd, &client);
+    GetClientRect(Window(), &client);
     if (!client.PtInRect(point))
         return MCHT_NOWHERE;
     const CalendarLayout layout = Layout();
@@ -204,12 +202,11 @@ UINT MonthCalendar::HitTest(CPoint point, SYSTEMTIME& day) const {
 }
 
 void MonthCalendar::OnButtonDown(CPoint point) {
-    const HWND self = m_hwnd;
     SYSTEMTIME chosen{};
     const UINT hit = HitTest(point, chosen);
     if (hit == MCHT_NOWHERE) {
         CRect client;
-        GetClientRect(self, &client);
+        GetClientRect(Window(), &client);
         if (!client.PtInRect(point))
             AskToClose();
         return;
@@ -223,7 +220,7 @@ void MonthCalendar::OnButtonDown(CPoint point) {
         return;
     Select(chosen);
     Notify(MCN_SELCHANGE);
-    if (IsWindow(self)) // the owner may have closed the calendar
+    if (Alive()) // the owner may have closed the calendar
         Notify(MCN_SELECT);
 }
 
@@ -265,11 +262,11 @@ void MonthCalendar::OnKey(UINT key) {
 
 void MonthCalendar::Paint() {
     PAINTSTRUCT ps{};
-    CDC& dc = *CDC::FromHandle(BeginPaint(m_hwnd, &ps));
+    CDC& dc = *CDC::FromHandle(BeginPaint(Window(), &ps));
     const CalendarLayout layout = Layout();
     const CalendarNames names = CurrentCalendarNames();
     CRect client;
-    GetClientRect(m_hwnd, &client);
+    GetClientRect(Window(), &client);
     dc.FillSolidRect(client, GetSysColor(COLOR_WINDOW));
     CFont* oldFont = dc.SelectObject(CFont::FromHandle(m_font ? m_font : DefaultFont()));
     dc.SetBkMode(TRANSPARENT);
@@ -315,7 +312,9 @@ void MonthCalendar::Paint() {
         if (SameDay(day, today)) {
             CPen* oldPen = dc.SelectObject(&todayPen);
             dc.SelectStockObject(NULL_BRUSH);
-            dc.Ellipse(cell.left + 1, cell.top, cell.right - 1, cell.bottom);
+            const int half = std::min(cell.Width() - 2, cell.Height() + 8) / 2;
+            const int middle = cell.CenterPoint().x;
+            dc.Ellipse(middle - half, cell.top, middle + half, cell.bottom);
             dc.SelectObject(oldPen);
         }
         dc.SetTextColor(text);
@@ -339,19 +338,19 @@ void MonthCalendar::Paint() {
                 DT_LEFT | DT_VCENTER | DT_SINGLELINE);
 
     dc.SelectObject(oldFont);
-    EndPaint(m_hwnd, &ps);
+    EndPaint(Window(), &ps);
 }
 
-// The window procedure and its class.
-
-// The state of each calendar window. Single-threaded: shared without locks.
-std::map<HWND, std::unique_ptr<MonthCalendar>>& Calendars() {
-    static auto& calendars = *new std::map<HWND, std::unique_ptr<MonthCalendar>>;
-    return calendars;
-}
+// The messages and the window class.
 
 LRESULT MonthCalendar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
+    case WM_NCCREATE: {
+        const auto* cs = reinterpret_cast<const CREATESTRUCT*>(lParam);
+        m_notify = cs->hwndParent;
+        m_popup = cs->style & WS_POPUP;
+        return Default(message, wParam, lParam);
+    }
     case WM_PAINT:
         Paint();
         return 0;
@@ -360,7 +359,7 @@ LRESULT MonthCalendar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETFONT:
         m_font = HFONT(wParam);
         if (LOWORD(lParam))
-            InvalidateRect(m_hwnd, nullptr, TRUE);
+            InvalidateRect(Window(), nullptr, TRUE);
         return 0;
     case WM_GETFONT:
         return LRESULT(m_font);
@@ -369,7 +368,7 @@ LRESULT MonthCalendar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
         if (!m_popup)
-            SetFocus(m_hwnd);
+            SetFocus(Window());
         OnButtonDown(CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
         return 0;
     case WM_KEYDOWN:
@@ -404,7 +403,7 @@ LRESULT MonthCalendar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             m_today.reset();
         else if (SystemTimeToVariantTime(day, &date))
             m_today = DayOf(day->wYear, day->wMonth, day->wDay);
-        InvalidateRect(m_hwnd, nullptr, TRUE);
+        InvalidateRect(Window(), nullptr, TRUE);
         return 0;
     }
     case MCM_HITTEST: {
@@ -422,42 +421,11 @@ LRESULT MonthCalendar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         return TRUE;
     }
     default:
-        return DefWindowProc(m_hwnd, message, wParam, lParam);
+        return Default(message, wParam, lParam);
     }
 }
 
-LRESULT MonthCalendarProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto& calendars = Calendars();
-    if (message == WM_NCCREATE) {
-        const auto* cs = reinterpret_cast<const CREATESTRUCT*>(lParam);
-        calendars[hwnd] = std::make_unique<MonthCalendar>(hwnd, cs->hwndParent, DWORD(cs->style));
-        return DefWindowProc(hwnd, message, wParam, lParam);
-    }
-    if (message == WM_NCDESTROY) {
-        calendars.erase(hwnd);
-        return DefWindowProc(hwnd, message, wParam, lParam);
-    }
-    const auto found = calendars.find(hwnd);
-    if (found == calendars.end())
-        return DefWindowProc(hwnd, message, wParam, lParam);
-    return found->second->Handle(message, wParam, lParam);
-}
+const bool registered =
+    widgets::RegisterControlClass<MonthCalendar>(MONTHCAL_CLASS, CS_DBLCLKS, IDC_ARROW);
 
-} // namespace
-
-BOOL RegisterMonthCalendarClass() {
-    WNDCLASS wndClass{};
-    if (GetClassInfo(nullptr, MONTHCAL_CLASS, &wndClass))
-        return TRUE;
-    wndClass.style = CS_DBLCLKS;
-    wndClass.lpfnWndProc = MonthCalendarProc;
-    wndClass.hCursor = LoadCursor(nullptr, IDC_ARROW);
-    wndClass.hbrBackground = reinterpret_cast<HBRUSH>(INT_PTR(COLOR_WINDOW + 1));
-    wndClass.lpszClassName = MONTHCAL_CLASS;
-    return RegisterClass(&wndClass);
-}
-
-namespace {
-// Dialog templates name the class before any CMonthCalCtrl exists.
-const BOOL monthCalendarClassRegistered = RegisterMonthCalendarClass();
 } // namespace

@@ -1,23 +1,71 @@
 // The default procedure: what a window does with a message that its own procedure passes on.
 
 #include "platform/window/MenuTracker.h"
+#include "platform/window/NonClient.h"
 #include "platform/window/ScrollBarTracking.h"
+#include "platform/window/WindowIcons.h"
 #include "platform/window/WindowRecord.h"
 
 #include "platform/gdi/DC.h"
 #include "platform/host/Host.h"
 #include "platform/system/SysColors.h"
+#include "platform/system/SystemMetrics.h"
 
 #include <algorithm>
 #include <cctype>
 #include <cstring>
 
-namespace wm {
-void DrawFrame(const WindowRecord& w, HDC windowDC); // NonClientPainter.cpp
-}
-
 namespace {
 using namespace wm;
+
+// The sizing border of a resizable window under a window point, or 0; the corners reach
+// along the edges as far as a caption is high.
+int SizingEdge(const WindowRecord& w, const FrameMetrics& m, CPoint p) {
+    if (!(w.style & WS_THICKFRAME) || (w.style & WS_MAXIMIZE) || m.border <= 0)
+        return 0;
+    const CSize size = w.rect.Size();
+    const int corner = m.border + GetSystemMetrics(SM_CYCAPTION);
+    const bool left = p.x < m.border, right = p.x >= size.cx - m.border;
+    const bool top = p.y < m.border, bottom = p.y >= size.cy - m.border;
+    const bool nearLeft = p.x < corner, nearRight = p.x >= size.cx - corner;
+    const bool nearTop = p.y < corner, nearBottom = p.y >= size.cy - corner;
+    if ((top && nearLeft) || (left && nearTop))
+        return HTTOPLEFT;
+    if ((top && nearRight) || (right && nearTop))
+        return HTTOPRIGHT;
+    if ((bottom && nearLeft) || (left && nearBottom))
+        return HTBOTTOMLEFT;
+    if ((bottom && nearRight) || (right && nearBottom))
+        return HTBOTTOMRIGHT;
+    if (left)
+        return HTLEFT;
+    if (right)
+        return HTRIGHT;
+    if (top)
+        return HTTOP;
+    if (bottom)
+        return HTBOTTOM;
+    return 0;
+}
+
+LPCSTR SizingCursor(int hit) {
+    switch (hit) {
+    case HTLEFT:
+    case HTRIGHT:
+        return IDC_SIZEWE;
+    case HTTOP:
+    case HTBOTTOM:
+        return IDC_SIZENS;
+    case HTTOPLEFT:
+    case HTBOTTOMRIGHT:
+        return IDC_SIZENWSE;
+    case HTTOPRIGHT:
+    case HTBOTTOMLEFT:
+        return IDC_SIZENESW;
+    default:
+        return IDC_ARROW;
+    }
+}
 
 LRESULT HitTest(const WindowRecord& w, CPoint screen) {
     const CPoint p = screen - WindowOrigin(w);
@@ -31,8 +79,17 @@ LRESULT HitTest(const WindowRecord& w, CPoint screen) {
     if (bar == SB_HORZ)
         return HTHSCROLL;
     const FrameMetrics m = GetFrameMetrics(w);
+    if (const int edge = SizingEdge(w, m, p))
+        return edge;
     if (MenuBarInWindow(w).PtInRect(p))
         return HTMENU;
+    const CaptionButtons buttons = GetCaptionButtons(w);
+    if (buttons.close.PtInRect(p))
+        return HTCLOSE;
+    if (buttons.maximize.PtInRect(p))
+        return HTMAXBUTTON;
+    if (buttons.minimize.PtInRect(p))
+        return HTMINBUTTON;
     if (m.caption && p.y >= m.border && p.y < m.border + m.caption && p.x >= m.border &&
         p.x < w.rect.Width() - m.border)
         return HTCAPTION;
@@ -98,7 +155,7 @@ LRESULT SystemCommand(HWND hwnd, WPARAM wParam, LPARAM lParam) {
         return 0;
     }
     case SC_CLOSE:
-        PostMessage(hwnd, WM_CLOSE);
+        SendMessage(hwnd, WM_CLOSE);
         return 0;
     default:
         return 0;
@@ -139,6 +196,19 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
         if (LOWORD(std::uintptr_t(lParam)))
             InvalidateRect(hwnd, nullptr, TRUE);
         return 0;
+    case WM_SETICON: {
+        HICON& slot = wParam == ICON_BIG ? w->bigIcon : w->smallIcon;
+        const HICON previous = slot;
+        slot = reinterpret_cast<HICON>(lParam);
+        if (IsTopLevel(*w) && (wParam == ICON_BIG || !w->bigIcon))
+            if (const IconPixels* pixels = GetIconPixels(slot))
+                GetHost().SetWindowIcon(hwnd, pixels->size, pixels->argb);
+        if ((w->style & WS_CAPTION) == WS_CAPTION)
+            InvalidateFrame(*w);
+        return reinterpret_cast<LRESULT>(previous);
+    }
+    case WM_GETICON:
+        return reinterpret_cast<LRESULT>(wParam == ICON_BIG ? w->bigIcon : w->smallIcon);
     case WM_GETFONT:
         return reinterpret_cast<LRESULT>(w->font);
     case WM_ERASEBKGND: {
@@ -161,14 +231,34 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
         ReleaseDC(hwnd, dc);
         return 0;
     }
+    case WM_NCCALCSIZE:
+        // The frame, caption, menu bar, edges and scroll bars come off the window's rectangle.
+        if (auto* rect = reinterpret_cast<RECT*>(lParam)) {
+            const CRect client = DefaultClientInWindow(*w) + CRect(*rect).TopLeft();
+            *rect = client;
+        }
+        return 0;
     case WM_NCHITTEST:
         return HitTest(*w, CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
     case WM_NCLBUTTONDOWN:
     case WM_NCLBUTTONDBLCLK:
+        if (wParam == HTCLOSE || wParam == HTMAXBUTTON || wParam == HTMINBUTTON) {
+            const UINT command = wParam == HTCLOSE          ? SC_CLOSE
+                                 : wParam == HTMINBUTTON    ? SC_MINIMIZE
+                                 : (w->style & WS_MAXIMIZE) ? SC_RESTORE
+                                                            : SC_MAXIMIZE;
+            SendMessage(hwnd, WM_SYSCOMMAND, command, lParam);
+            return 0;
+        }
         if (wParam == HTMENU) {
             TrackMenuBar(hwnd,
                          MenuBarItemAt(hwnd, CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam))),
                          false);
+            return 0;
+        }
+        if ((wParam >= WPARAM(HTLEFT) && wParam <= WPARAM(HTBOTTOMRIGHT)) ||
+            (wParam == HTCAPTION && !(w->style & WS_MAXIMIZE))) {
+            BeginSizeMove(hwnd, int(wParam), CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
             return 0;
         }
         if (wParam == HTVSCROLL || wParam == HTHSCROLL)
@@ -187,7 +277,7 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
             SetCursor(cursor);
             return TRUE;
         }
-        SetCursor(LoadCursor(nullptr, IDC_ARROW));
+        SetCursor(LoadCursor(nullptr, SizingCursor(short(LOWORD(std::uintptr_t(lParam))))));
         return FALSE;
     case WM_RBUTTONUP: {
         // Releasing the right button asks for the context menu, at the cursor's screen point.
@@ -217,7 +307,7 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
             RECT client;
             GetClientRect(hwnd, &client);
             w->announcedClient = CSize(client.right, client.bottom);
-            SendMessage(hwnd, WM_SIZE, SIZE_RESTORED,
+            SendMessage(hwnd, WM_SIZE, (w->style & WS_MAXIMIZE) ? SIZE_MAXIMIZED : SIZE_RESTORED,
                         MAKELPARAM(WORD(client.right), WORD(client.bottom)));
         }
         return 0;
@@ -252,14 +342,13 @@ LRESULT DefWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETREDRAW:
         w->redraw = wParam != 0;
         return 0;
-    case WM_GETMINMAXINFO: {
-        if (auto* info = reinterpret_cast<MINMAXINFO*>(lParam)) {
-            info->ptMaxSize = POINT{1920, 1080};
-            info->ptMaxTrackSize = POINT{1920, 1080};
-            info->ptMinTrackSize = POINT{0, 0};
-        }
+    case WM_GETMINMAXINFO:
+        // The record comes filled with the defaults of the window's kind.
         return 0;
-    }
+    case WM_SHOWWINDOW:
+        if (wParam)
+            ShareSizeLimits(hwnd);
+        return 0;
     default:
         return 0;
     }

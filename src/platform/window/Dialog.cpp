@@ -193,8 +193,11 @@ void CDialog::OnModalShown() {
 void CDialog::EndDialog(int result) {
     m_result = result;
     m_ended = true;
+    // A modal dialog goes away at once; its loop destroys it once it has returned.
     if (!m_modal)
         DestroyWindow();
+    else if (IsWindow())
+        ShowWindow(SW_HIDE);
 }
 
 void CDialog::MapDialogRect(LPRECT rect) const {

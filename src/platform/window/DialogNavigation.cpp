@@ -16,6 +16,15 @@ DWORD StyleOf(HWND control) {
     return DWORD(GetWindowLong(control, GWL_STYLE));
 }
 
+// The dialog's own control that holds `control`, as a combo box holds its edit; null for a
+// window outside the dialog.
+HWND OwnControl(HWND dialog, HWND control) {
+    while (control && (StyleOf(control) & WS_CHILD) && GetParent(control) != dialog)
+        control = GetParent(control);
+    return control && GetParent(control) == dialog && (StyleOf(control) & WS_CHILD) ? control
+                                                                                    : nullptr;
+}
+
 std::vector<HWND> ChildrenOf(HWND dialog) {
     std::vector<HWND> children;
     for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
@@ -115,6 +124,7 @@ bool SwallowChar(const MSG& msg) {
 } // namespace
 
 HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous) {
+    control = OwnControl(dialog, control);
     const std::vector<HWND> children = ChildrenOf(dialog);
     if (children.empty())
         return nullptr;
@@ -127,6 +137,7 @@ HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous) {
 }
 
 HWND GetNextDlgGroupItem(HWND dialog, HWND control, BOOL previous) {
+    control = OwnControl(dialog, control);
     const std::vector<HWND> children = ChildrenOf(dialog);
     size_t at = children.size();
     for (size_t i = 0; i < children.size(); ++i)

@@ -6,7 +6,9 @@
 #include "platform/host/Host.h"
 #include "platform/window/InputState.h"
 #include "platform/window/KeyboardLayout.h"
+#include "platform/window/Menu.h"
 #include "platform/window/MenuTracker.h"
+#include "platform/window/NonClient.h"
 #include "platform/window/ScrollBarTracking.h"
 #include "platform/window/WindowRecord.h"
 
@@ -54,7 +56,7 @@ void PostMouse(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, CPoint scr
 
 // A mouse message for the window under the cursor, or for the capture.
 void RouteMouse(UINT message, CPoint screen, int clickCount) {
-    if (TrackScrollBarMouse(message, screen))
+    if (TrackScrollBarMouse(message, screen) || TrackSizeMoveMouse(message, screen))
         return;
     if (HWND capture = GetCapture()) {
         CPoint client = screen;
@@ -76,6 +78,15 @@ void RouteMouse(UINT message, CPoint screen, int clickCount) {
     const int hit = int(SendMessage(target, WM_NCHITTEST, 0, PackPoint(screen)));
     if (!Find(target))
         return;
+    if (press) {
+        // The window (or, through the default procedure, an ancestor) may take the press as
+        // its activation only.
+        const LRESULT answer =
+            SendMessage(target, WM_MOUSEACTIVATE, WPARAM(GetAncestor(target, GA_ROOT)),
+                        MAKELPARAM(WORD(hit), WORD(message)));
+        if (!Find(target) || answer == MA_ACTIVATEANDEAT || answer == MA_NOACTIVATEANDEAT)
+            return;
+    }
     SendMessage(target, WM_SETCURSOR, WPARAM(target), MAKELPARAM(WORD(hit), WORD(message)));
     if (!(w = Find(target)))
         return;
@@ -100,6 +111,13 @@ UINT ButtonMessage(UINT button, bool down) {
     default:
         return down ? WM_LBUTTONDOWN : WM_LBUTTONUP;
     }
+}
+
+// The character TranslateMessage makes of the last key pressed, or -1: a display reports it
+// once more as typed text, which must not arrive twice.
+int& TranslatedChar() {
+    static int ch = -1;
+    return ch;
 }
 
 HWND KeyboardTarget() {
@@ -149,6 +167,12 @@ void InjectKey(UINT vk, bool down) {
         SetKey(vk = VK_SHIFT, down);
     else if (vk == VK_LCONTROL || vk == VK_RCONTROL)
         SetKey(vk = VK_CONTROL, down);
+    if (down) {
+        const auto& keys = Input().keys;
+        const auto ch =
+            CharFromKey(vk, (keys[VK_SHIFT] & 0x80) != 0, (keys[VK_CONTROL] & 0x80) != 0);
+        TranslatedChar() = ch ? int(static_cast<unsigned char>(*ch)) : -1;
+    }
     const HWND target = KeyboardTarget();
     if (!target)
         return;
@@ -172,6 +196,55 @@ void InjectKey(UINT vk, bool down) {
 void InjectChar(UINT ch) {
     if (const HWND target = KeyboardTarget())
         PostInput(MSG{target, WM_CHAR, ch, 1, GetHost().Now(), Input().cursorPos});
+}
+
+void InjectText(const char* text) {
+    for (const char* c = text; c && *c; ++c) {
+        const int ch = static_cast<unsigned char>(*c);
+        if (ch == TranslatedChar())
+            TranslatedChar() = -1;
+        else
+            InjectChar(UINT(ch));
+    }
+    TranslatedChar() = -1;
+}
+
+void InjectWindowMoved(HWND window, POINT screenTopLeft) {
+    const WindowRecord* w = Find(window);
+    if (!w || !IsTopLevel(*w) || w->rect.TopLeft() == CPoint(screenTopLeft))
+        return;
+    SetWindowPos(window, nullptr, screenTopLeft.x, screenTopLeft.y, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void InjectWindowResized(HWND window, SIZE size) {
+    const WindowRecord* w = Find(window);
+    if (!w || !IsTopLevel(*w) || w->rect.Size() == CSize(size))
+        return;
+    ApplyHostSize(window, size);
+}
+
+void InjectCloseRequest(HWND window) {
+    // Closing waits its turn behind the input before it, as a click on a close box would.
+    if (const WindowRecord* w = Find(window); w && IsTopLevel(*w))
+        PostMessage(window, WM_CLOSE);
+}
+
+void InjectActivation(HWND window, bool active) {
+    if (active) {
+        // A pop-up menu's or a list's window gets the display's focus without taking the
+        // activation from its owner.
+        const WindowRecord* w = Find(window);
+        if (w && !(w->style & WS_POPUP) && IsWindowEnabled(window) && GetActiveWindow() != window)
+            SetActiveWindow(window);
+        return;
+    }
+    if (window)
+        return;
+    EndMenu();
+    if (const WindowRecord* capture = Find(GetCapture());
+        capture && IsTopLevel(*capture) && (capture->style & WS_POPUP))
+        ReleaseCapture();
 }
 
 void SetKeyHeld(UINT vk, bool down) {

@@ -21,6 +21,17 @@ ORVA_API void InjectMouseWheel(POINT screen, int delta);
 ORVA_API void InjectKey(UINT virtualKey, bool down);
 // A typed character that no key of the layout makes: WM_CHAR to the focus window.
 ORVA_API void InjectChar(UINT ch);
+// What the display did to a top-level window: the user moved or resized it (sizes are kept
+// within the window's WM_GETMINMAXINFO limits), asked to close it, or it got or lost the
+// keyboard focus of the display. A null window losing the focus means the application did:
+// open menus and other pop-ups close.
+ORVA_API void InjectWindowMoved(HWND window, POINT screenTopLeft);
+ORVA_API void InjectWindowResized(HWND window, SIZE size);
+ORVA_API void InjectCloseRequest(HWND window);
+ORVA_API void InjectActivation(HWND window, bool active);
+// Text a display typed (Latin-1): WM_CHAR for each character, except the one character that
+// TranslateMessage already makes of the key just pressed.
+ORVA_API void InjectText(const char* text);
 // Changes a key's state without a message, as if it had been held before the test began.
 ORVA_API void SetKeyHeld(UINT virtualKey, bool down);
 // The clock time at which the next timer comes due, if any timer is set.

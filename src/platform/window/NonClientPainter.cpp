@@ -1,12 +1,17 @@
 // Draws the non-client area in the classic look: the outer frame, the caption of a top-level
 // window, its menu bar, the sunken client edge, and the scroll bars.
 
+#include "platform/window/MdiState.h"
 #include "platform/window/MenuTracker.h"
+#include "platform/window/NonClient.h"
 #include "platform/window/ScrollBarTracking.h"
+#include "platform/window/WindowIcons.h"
 
 #include "platform/gdi/DC.h"
 #include "platform/system/SysColors.h"
 #include "platform/system/SystemMetrics.h"
+
+#include <algorithm>
 
 namespace wm {
 namespace {
@@ -29,10 +34,53 @@ void DrawOuterFrame(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect
     rect.DeflateRect(m.border, m.border);
 }
 
+// A glyph of the caption's buttons, drawn in the button's face.
+void DrawGlyph(CDC& dc, const CRect& face, UINT command, bool maximized) {
+    const COLORREF ink = GetSysColor(COLOR_BTNTEXT);
+    const CPoint c = face.CenterPoint();
+    switch (command) {
+    case SC_CLOSE:
+        for (int i = 0; i < 7; ++i) {
+            dc.FillSolidRect(c.x - 4 + i, c.y - 4 + i, 2, 1, ink);
+            dc.FillSolidRect(c.x + 1 - i, c.y - 4 + i, 2, 1, ink);
+        }
+        break;
+    case SC_MAXIMIZE:
+        if (maximized) {
+            // Restore: two overlapping windows.
+            dc.FillSolidRect(c.x - 2, c.y - 5, 6, 2, ink);
+            dc.FillSolidRect(c.x + 3, c.y - 5, 1, 5, ink);
+            dc.FillSolidRect(c.x - 4, c.y - 2, 6, 2, ink);
+            dc.Draw3dRect(c.x - 4, c.y - 2, 6, 5, ink, ink);
+        } else {
+            dc.FillSolidRect(c.x - 4, c.y - 4, 9, 2, ink);
+            dc.Draw3dRect(c.x - 4, c.y - 4, 9, 8, ink, ink);
+        }
+        break;
+    default:
+        dc.FillSolidRect(c.x - 4, c.y + 2, 6, 2, ink);
+        break;
+    }
+}
+
+void DrawCaptionButtons(const WindowRecord& w, CDC& dc) {
+    const CaptionButtons buttons = GetCaptionButtons(w);
+    const std::pair<CRect, UINT> all[] = {{buttons.close, SC_CLOSE},
+                                          {buttons.maximize, SC_MAXIMIZE},
+                                          {buttons.minimize, SC_MINIMIZE}};
+    for (const auto& [rect, command] : all) {
+        if (rect.IsRectEmpty())
+            continue;
+        CRect face = rect;
+        dc.DrawFrameControl(&face, DFC_BUTTON, DFCS_BUTTONPUSH);
+        DrawGlyph(dc, rect, command, (w.style & WS_MAXIMIZE) != 0);
+    }
+}
+
 void DrawCaption(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& rect) {
     if (!m.caption)
         return;
-    const bool active = GetActiveWindow() == w.handle;
+    const bool active = ShowsActiveCaption(w);
     CRect bar(rect.left, rect.top, rect.right, rect.top + m.caption - 1);
     dc.FillSolidRect(&bar, GetSysColor(active ? COLOR_ACTIVECAPTION : COLOR_INACTIVECAPTION));
     dc.FillSolidRect(rect.left, bar.bottom, rect.Width(), 1, GetSysColor(COLOR_3DFACE));
@@ -42,8 +90,20 @@ void DrawCaption(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& r
     dc.SetTextColor(GetSysColor(active ? COLOR_CAPTIONTEXT : COLOR_INACTIVECAPTIONTEXT));
     CRect text = bar;
     text.DeflateRect(4, 0);
+    // The small icon, or the big one made small, at the caption's left.
+    if (const HICON icon = w.smallIcon ? w.smallIcon : w.bigIcon) {
+        const int size = GetSystemMetrics(SM_CXSMICON);
+        DrawIconEx(dc.GetSafeHdc(), bar.left + 2, bar.top + (bar.Height() - size) / 2, icon, size,
+                   size, 0, nullptr, DI_NORMAL);
+        text.left = bar.left + size + 4;
+    }
+    const CaptionButtons buttons = GetCaptionButtons(w);
+    for (const CRect& button : {buttons.close, buttons.maximize, buttons.minimize})
+        if (!button.IsRectEmpty())
+            text.right = std::min(text.right, button.left - 2);
     dc.DrawText(w.text.c_str(), -1, &text, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
     dc.SelectObject(old);
+    DrawCaptionButtons(w, dc);
     rect.top += m.caption;
 }
 
@@ -71,6 +131,31 @@ void DrawEdges(const WindowRecord& w, CDC& dc, CRect& rect) {
 }
 
 } // namespace
+
+CaptionButtons GetCaptionButtons(const WindowRecord& w) {
+    CaptionButtons buttons;
+    const FrameMetrics m = GetFrameMetrics(w);
+    if (!m.caption || !(w.style & WS_SYSMENU))
+        return buttons;
+    const int width = GetSystemMetrics(SM_CXSIZE) - 2;
+    const int height = m.caption - 5;
+    const int top = m.border + 2;
+    int right = w.rect.Width() - m.border - 2;
+    buttons.close = CRect(right - width, top, right, top + height);
+    right = buttons.close.left - 2;
+    if (w.style & (WS_MAXIMIZEBOX | WS_MINIMIZEBOX)) {
+        buttons.maximize = CRect(right - width, top, right, top + height);
+        buttons.minimize = CRect(right - 2 * width, top, right - width, top + height);
+    }
+    return buttons;
+}
+
+bool ShowsActiveCaption(const WindowRecord& w) {
+    if (w.exStyle & WS_EX_MDICHILD)
+        return ActiveMdiChild(w.parent) == w.handle &&
+               GetActiveWindow() == GetAncestor(w.handle, GA_ROOT);
+    return GetActiveWindow() == w.handle;
+}
 
 void DrawFrame(const WindowRecord& w, HDC windowDC) {
     CDC* dc = CDC::FromHandle(windowDC);

@@ -7,7 +7,12 @@
 #include "platform/window/WindowRecord.h"
 
 #include "platform/gdi/DC.h"
+#include "platform/gdi/GdiTypes.h"
+#include "platform/gdi/Rgn.h"
+#include "platform/gdi/SurfaceDC.h"
 #include "platform/host/Host.h"
+
+#include <cstdlib>
 
 namespace wm {
 namespace {
@@ -64,6 +69,30 @@ CRect Subtract(const CRect& update, const CRect& rect) {
     return result;
 }
 
+// Whether the pixels now shown in `area` (client coordinates) are the window's own: the window
+// draws, the area is in view and no child covers it.
+bool OwnsPixelsOf(const WindowRecord& w, const CRect& area) {
+    if (!w.redraw || !IsShowing(w))
+        return false;
+    const CRect inSurface = area + SurfaceOrigin(w, true);
+    if ((inSurface & VisibleClientInSurface(w)) != inSurface)
+        return false;
+    const CPoint client = ClientInWindow(w).TopLeft();
+    for (HWND child : w.children) {
+        const WindowRecord* c = Find(child);
+        if (c && (c->style & WS_VISIBLE) && !(area & (c->rect - client)).IsRectEmpty())
+            return false;
+    }
+    return true;
+}
+
+// Copies the pixels of `from` to `to` (same size, client coordinates) on the window's surface.
+void MovePixels(const WindowRecord& w, const CRect& from, const CRect& to) {
+    HDC dc = SurfaceDC(w, true, VisibleClientInSurface(w));
+    ::BitBlt(dc, to.left, to.top, to.Width(), to.Height(), dc, from.left, from.top, SRCCOPY);
+    DeleteDC(dc);
+}
+
 void PaintNow(HWND hwnd) {
     WindowRecord* w = Find(hwnd);
     if (!w || !NeedsPaint(*w))
@@ -116,6 +145,55 @@ BOOL InvalidateRect(HWND hwnd, const RECT* rect, BOOL erase) {
         return FALSE;
     InvalidateClient(*w, rect ? CRect(*rect) : ClientBounds(*w), erase != FALSE);
     return TRUE;
+}
+
+int ScrollWindowEx(HWND hwnd, int dx, int dy, const RECT* scrollRect, const RECT* clipRect,
+                   HRGN updateRegion, RECT* updateRect, UINT flags) {
+    WindowRecord* w = Find(hwnd);
+    if (!w)
+        return ERROR;
+    CRect area = ClientBounds(*w);
+    if (scrollRect)
+        area &= CRect(*scrollRect);
+    if (clipRect)
+        area &= CRect(*clipRect);
+    if (flags & SW_SCROLLCHILDREN) {
+        const CPoint client = ClientInWindow(*w).TopLeft();
+        for (HWND child : w->children)
+            if (WindowRecord* c = Find(child);
+                c && (!scrollRect || !(CRect(*scrollRect) & (c->rect - client)).IsRectEmpty()))
+                c->rect.OffsetRect(dx, dy);
+    }
+
+    // A move along one axis keeps in view what it does not push out, and brings in one band;
+    // anything else brings in the whole area.
+    const CRect kept = (area + CPoint(dx, dy)) & area;
+    CRect exposed = area;
+    if (dx == 0 && dy == 0) {
+        exposed.SetRectEmpty();
+    } else if ((dx == 0 || dy == 0) && !kept.IsRectEmpty() && !(flags & SW_SCROLLCHILDREN) &&
+               OwnsPixelsOf(*w, area)) {
+        MovePixels(*w, kept - CPoint(dx, dy), kept);
+        // A part waiting to be painted moves with the pixels around it.
+        const CRect waiting = w->update & area;
+        if (!waiting.IsRectEmpty())
+            w->update |= (waiting + CPoint(dx, dy)) & area;
+        if (dy > 0)
+            exposed.bottom = kept.top;
+        else if (dy < 0)
+            exposed.top = kept.bottom;
+        else if (dx > 0)
+            exposed.right = kept.left;
+        else
+            exposed.left = kept.right;
+    }
+    if ((flags & SW_INVALIDATE) && !exposed.IsRectEmpty())
+        InvalidateClient(*w, exposed, (flags & SW_ERASE) != 0);
+    if (updateRect)
+        *updateRect = exposed;
+    if (CRgn* region = updateRegion ? CRgn::FromHandle(updateRegion) : nullptr)
+        region->SetRectRgn(exposed.left, exposed.top, exposed.right, exposed.bottom);
+    return exposed.IsRectEmpty() ? NULLREGION : SIMPLEREGION;
 }
 
 BOOL ValidateRect(HWND hwnd, const RECT* rect) {

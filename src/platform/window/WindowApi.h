@@ -83,6 +83,13 @@ struct WINDOWPOS {
     UINT flags;
 };
 
+// WM_NCCALCSIZE with TRUE: rgrc[0] holds the window's new rectangle (in its parent's client
+// coordinates) and takes back the client area's.
+struct NCCALCSIZE_PARAMS {
+    RECT rgrc[3];
+    WINDOWPOS* lppos;
+};
+
 constexpr int CW_USEDEFAULT = int(0x80000000);
 
 // PeekMessage removal flags.
@@ -217,6 +224,14 @@ ORVA_API BOOL GetScrollRange(HWND hwnd, int bar, int* minPos, int* maxPos);
 ORVA_API BOOL ShowScrollBar(HWND hwnd, int bar, BOOL show);
 ORVA_API BOOL EnableScrollBar(HWND hwnd, int bar, UINT arrows);
 ORVA_API BOOL ScrollWindow(HWND hwnd, int dx, int dy, const RECT* scrollRect, const RECT* clipRect);
+// Moves the pixels of the client area (or of `scrollRect`, within `clipRect`) by dx, dy; what
+// comes into view is invalidated with SW_INVALIDATE. Answers NULLREGION, SIMPLEREGION or ERROR;
+// `updateRect` (and `updateRegion`) get the bounds of what came into view.
+constexpr UINT SW_SCROLLCHILDREN = 0x0001;
+constexpr UINT SW_INVALIDATE = 0x0002;
+constexpr UINT SW_ERASE = 0x0004;
+ORVA_API int ScrollWindowEx(HWND hwnd, int dx, int dy, const RECT* scrollRect, const RECT* clipRect,
+                            HRGN updateRegion, RECT* updateRect, UINT flags);
 
 // Invalidation and painting. The update region is kept as its bounding rectangle.
 ORVA_API BOOL InvalidateRect(HWND hwnd, const RECT* rect, BOOL erase);

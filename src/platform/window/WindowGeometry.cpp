@@ -42,12 +42,41 @@ FrameMetrics GetFrameMetrics(const WindowRecord& w) {
     return m;
 }
 
-CRect ClientInWindow(const WindowRecord& w) {
+CRect DefaultClientInWindow(const WindowRecord& w) {
     const FrameMetrics m = GetFrameMetrics(w);
     CRect client(m.left, m.top, w.rect.Width() - m.right, w.rect.Height() - m.bottom);
     client.right = std::max(client.right, client.left);
     client.bottom = std::max(client.bottom, client.top);
     return client;
+}
+
+CRect ClientInWindow(const WindowRecord& w) {
+    // The adjustment is kept rather than the rectangle, so that scroll bars shown or hidden
+    // between two calculations still count.
+    CRect client = DefaultClientInWindow(w);
+    client.left = std::clamp<LONG>(client.left + w.clientAdjust.left, 0, w.rect.Width());
+    client.top = std::clamp<LONG>(client.top + w.clientAdjust.top, 0, w.rect.Height());
+    client.right = std::clamp<LONG>(client.right - w.clientAdjust.right, client.left,
+                                    std::max<LONG>(client.left, w.rect.Width()));
+    client.bottom = std::clamp<LONG>(client.bottom - w.clientAdjust.bottom, client.top,
+                                     std::max<LONG>(client.top, w.rect.Height()));
+    return client;
+}
+
+void RecalcClient(HWND hwnd) {
+    WindowRecord* w = Find(hwnd);
+    if (!w)
+        return;
+    NCCALCSIZE_PARAMS params{};
+    params.rgrc[0] = params.rgrc[1] = w->rect;
+    Send(w, WM_NCCALCSIZE, TRUE, LPARAM(&params));
+    // The procedure may have destroyed the window.
+    if ((w = Find(hwnd)) == nullptr)
+        return;
+    const CRect asked = CRect(params.rgrc[0]) - w->rect.TopLeft();
+    const CRect standard = DefaultClientInWindow(*w);
+    w->clientAdjust = CRect(asked.left - standard.left, asked.top - standard.top,
+                            standard.right - asked.right, standard.bottom - asked.bottom);
 }
 
 CPoint WindowOrigin(const WindowRecord& w) {
@@ -153,18 +182,31 @@ int MapWindowPoints(HWND from, HWND to, POINT* points, UINT count) {
 }
 
 namespace {
+// A child that answers HTTRANSPARENT to the hit test (a group box, a static text) lets the
+// mouse through to the windows beneath it, as the framework's hit testing does.
+bool LetsMouseThrough(HWND child, CPoint screen) {
+    // As an int: a CWnd answers its hit test through a UINT handler.
+    return int(SendMessage(child, WM_NCHITTEST, 0, MAKELPARAM(WORD(screen.x), WORD(screen.y)))) ==
+           HTTRANSPARENT;
+}
+
 // The deepest visible window under a screen point, searching from `w` down.
 HWND DeepestAt(const WindowRecord& w, CPoint screen) {
     const CRect client(ClientOrigin(w), ClientInWindow(w).Size());
     if (!client.PtInRect(screen))
         return w.handle;
-    for (HWND child : w.children) {
+    const HWND self = w.handle;
+    // A copy: the hit test is a message, and its handler may change the children.
+    const std::vector<HWND> children = w.children;
+    for (HWND child : children) {
         const WindowRecord* c = Find(child);
         if (c && (c->style & WS_VISIBLE) &&
-            CRect(WindowOrigin(*c), c->rect.Size()).PtInRect(screen))
-            return DeepestAt(*c, screen);
+            CRect(WindowOrigin(*c), c->rect.Size()).PtInRect(screen) &&
+            !LetsMouseThrough(child, screen))
+            if (const WindowRecord* again = Find(child))
+                return DeepestAt(*again, screen);
     }
-    return w.handle;
+    return Find(self) ? self : nullptr;
 }
 } // namespace
 

@@ -119,7 +119,7 @@ HWND CreateWindowEx(DWORD exStyle, LPCSTR className, LPCSTR windowName, DWORD st
     w->rect = InitialRect(*w, x, y, width, height);
     w->text = windowName && !IS_INTRESOURCE(windowName) ? windowName : "";
     if (IsTopLevel(*w))
-        GetHost().CreateWindowSurface(hwnd, w->rect);
+        GetHost().CreateWindowSurface(hwnd, w->rect, w->style);
     HookCreatingWindow(*w);
 
     CREATESTRUCT cs{param,           instance,    menuOrId,     parent,      w->rect.Height(),
@@ -129,6 +129,7 @@ HWND CreateWindowEx(DWORD exStyle, LPCSTR className, LPCSTR windowName, DWORD st
         FinishWindow(hwnd);
         return nullptr;
     }
+    RecalcClient(hwnd);
     if ((w = Find(hwnd)) == nullptr)
         return nullptr;
     w->created = true;

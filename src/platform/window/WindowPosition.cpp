@@ -53,6 +53,12 @@ BOOL SetWindowPos(HWND hwnd, HWND insertAfter, int x, int y, int width, int heig
     if ((moved || sized) && (w->style & WS_VISIBLE) && redraw)
         InvalidateInParent(*w, oldRect);
     w->rect = newRect;
+    if (sized || (flags & SWP_FRAMECHANGED)) {
+        RecalcClient(hwnd);
+        // The window's WM_NCCALCSIZE may have destroyed it.
+        if ((w = Find(hwnd)) == nullptr)
+            return TRUE;
+    }
     if (IsTopLevel(*w) && (moved || sized))
         GetHost().MoveWindowSurface(hwnd, newRect);
     const CSize newClient = ClientInWindow(*w).Size();

@@ -54,6 +54,10 @@ struct WindowRecord {
     bool redraw = true; // WM_SETREDRAW
     bool inPaint = false;
 
+    // What the window's WM_NCCALCSIZE took from (or gave back to) each side of the client area
+    // beyond the frame that the default procedure reserves.
+    CRect clientAdjust;
+
     ScrollBarState hscroll;
     ScrollBarState vscroll;
     std::map<std::string, HANDLE> props;
@@ -79,8 +83,13 @@ struct FrameMetrics {
     bool vscroll = false, hscroll = false;
 };
 FrameMetrics GetFrameMetrics(const WindowRecord& w);
-// The client area in window coordinates (0, 0 at the window's top-left corner).
+// The client area in window coordinates (0, 0 at the window's top-left corner): the frame's
+// default, as the window's WM_NCCALCSIZE last changed it.
 CRect ClientInWindow(const WindowRecord& w);
+// The client area that the default procedure leaves inside the frame, in window coordinates.
+CRect DefaultClientInWindow(const WindowRecord& w);
+// Asks the window for its client area (WM_NCCALCSIZE); after a size or frame change.
+void RecalcClient(HWND hwnd);
 // The window's top-left corner and its client's top-left corner in screen coordinates.
 CPoint WindowOrigin(const WindowRecord& w);
 CPoint ClientOrigin(const WindowRecord& w);

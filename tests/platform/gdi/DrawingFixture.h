@@ -2,6 +2,7 @@
 
 #include "platform/gdi/DC.h"
 #include "platform/gdi/Surface.h"
+#include "platform/gdi/SurfaceDC.h"
 
 #include <gtest/gtest.h>
 

@@ -244,4 +244,27 @@ TEST_F(DateTimeTest, ParsingNamesYearsPartsAndFailures) {
     EXPECT_EQ(std::string(value.Format()), "");
 }
 
+TEST_F(DateTimeTest, WhatTheRegionalFormatsWriteTheParserReadsBackOverTheWholeRange) {
+    // Days spread over the years 100 to 9999, each at a different time of day.
+    constexpr long long kStep = 997;
+    constexpr int kSecondsStep = 7919;
+    for (bool german : {false, true}) {
+        if (german)
+            UseGermanFormats();
+        int secondOfDay = 0;
+        for (auto day = static_cast<long long>(kMinAutomationDate);
+             day <= static_cast<long long>(kMaxAutomationDate); day += kStep) {
+            secondOfDay = (secondOfDay + kSecondsStep) % 86400;
+            SYSTEMTIME st{};
+            ASSERT_TRUE(VariantTimeToSystemTime(double(day), &st));
+            const COleDateTime written(st.wYear, st.wMonth, st.wDay, secondOfDay / 3600,
+                                       secondOfDay / 60 % 60, secondOfDay % 60);
+            const CString text = written.Format();
+            COleDateTime read;
+            ASSERT_TRUE(read.ParseDateTime(text)) << text.GetString();
+            EXPECT_EQ(read, written) << text.GetString();
+        }
+    }
+}
+
 } // namespace

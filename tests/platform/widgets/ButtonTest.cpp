@@ -70,6 +70,17 @@ TEST_F(ButtonTest, AnAutoRadioUnchecksTheOthersOfItsGroupOnly) {
     EXPECT_EQ(a.SendMessage(WM_GETDLGCODE), LRESULT(DLGC_BUTTON | DLGC_RADIOBUTTON));
 }
 
+TEST_F(ButtonTest, AGroupBoxLetsTheControlsItFramesTakeTheMouse) {
+    CButton group, box;
+    Make(group, BS_GROUPBOX, 1, CRect(5, 5, 200, 100));
+    Make(box, BS_AUTOCHECKBOX, kButtonId, CRect(20, 30, 150, 50));
+    CPoint inBox(40, 40);
+    parent.ClientToScreen(&inBox);
+    EXPECT_EQ(WindowFromPoint(inBox), box.m_hWnd);
+    ui.Click(box.m_hWnd, CPoint(5, 10));
+    EXPECT_EQ(box.GetCheck(), int(BST_CHECKED));
+}
+
 TEST_F(ButtonTest, SpacePressesOnDownAndClicksOnUpAndEnterClicksAPushButton) {
     Make(button, BS_DEFPUSHBUTTON);
     button.SetFocus();

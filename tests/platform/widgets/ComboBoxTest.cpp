@@ -1,5 +1,6 @@
 #include "WidgetTestSupport.h"
 
+#include "platform/system/SysColors.h"
 #include "platform/widgets/ComboBox.h"
 #include "platform/widgets/Edit.h"
 
@@ -198,5 +199,57 @@ TEST_F(ComboBoxTest, AParentThatDestroysTheComboWhileItClosesIsSafe) {
     ui.PressKey(VK_RETURN);
     EXPECT_FALSE(IsWindow(hwnd));
     EXPECT_EQ(GetCapture(), nullptr);
+}
+} // namespace
+
+namespace {
+// A combo as the grid's in-place list derives it: it hears the keys that end an edit, even
+// while its edit field has the focus.
+class KeyHearingCombo : public CComboBox {
+public:
+    std::vector<UINT> keys;
+
+protected:
+    void OnKeyDown(UINT key, UINT repeat, UINT flags) override {
+        keys.push_back(key);
+        CComboBox::OnKeyDown(key, repeat, flags);
+    }
+};
+
+TEST_F(ComboBoxTest, KeysThatWorkTheListReachADerivedComboFromItsEditField) {
+    KeyHearingCombo hearing;
+    ASSERT_TRUE(hearing.Create(CBS_DROPDOWN | WS_VISIBLE, kComboRect, &parent, kComboId));
+    hearing.AddString("one");
+    hearing.AddString("two");
+    hearing.ShowDropDown();
+    hearing.SetFocus();
+    ui.Type("t");
+    ui.PressKey(VK_DOWN);
+    ui.PressKey(VK_TAB);
+    ui.PressKey(VK_RETURN);
+    ui.PressKey(VK_ESCAPE);
+    EXPECT_THAT(hearing.keys, ElementsAre(VK_DOWN, VK_TAB, VK_RETURN, VK_ESCAPE));
+    // Typing showed "two" in the list; Down stays on it, the last, and chooses it.
+    EXPECT_EQ(TextOf(hearing), "two");
+    EXPECT_FALSE(hearing.GetDroppedState());
+}
+
+TEST_F(ComboBoxTest, ALongListScrollsAndHighlightsTheItemUnderTheMouse) {
+    Make(CBS_DROPDOWNLIST);
+    for (int i = 0; i < 30; ++i)
+        combo.AddString(("item " + std::to_string(i)).c_str());
+    combo.ShowDropDown();
+    const HWND list = List();
+    EXPECT_EQ(combo.GetTopIndex(), 0);
+    ui.Wheel(list, ListRow(1), -WHEEL_DELTA);
+    EXPECT_EQ(combo.GetTopIndex(), 3);
+    EXPECT_TRUE(GetWindowLong(list, GWL_STYLE) & WS_VSCROLL);
+    ui.MouseMove(list, ListRow(2));
+    EXPECT_EQ(ui.Pixel(list, ListRow(2) + CPoint(60, 0)), GetSysColor(COLOR_HIGHLIGHT));
+    EXPECT_NE(ui.Pixel(list, ListRow(1) + CPoint(60, 0)), GetSysColor(COLOR_HIGHLIGHT));
+    ui.Click(list, ListRow(2));
+    EXPECT_EQ(combo.GetCurSel(), 5); // the third row shown, three rows down the list
+    combo.ShowDropDown();            // it opens again on the chosen item
+    EXPECT_LE(combo.GetTopIndex(), 5);
 }
 } // namespace

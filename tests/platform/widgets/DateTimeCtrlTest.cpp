@@ -15,7 +15,9 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <memory>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -263,6 +265,18 @@ TEST_F(DateTimeCtrlTest, TheRegionalFormatIsReadWhenTheStyleAsksForIt) {
     EXPECT_EQ(Date(), "2/1/2024"); // the first field is now the day
     ui.Type(".3");
     EXPECT_EQ(Date(), "3/1/2024");
+
+    // The style's bits choose among the regional formats: the century date (here with the
+    // up-down control) starts with the day as the short date does, the time with the hour.
+    picker.ModifyStyle(0, DTS_SHORTDATECENTURYFORMAT | DTS_UPDOWN);
+    ui.PressKey(VK_HOME);
+    ui.PressKey(VK_UP);
+    EXPECT_EQ(Date(), "3/2/2024");
+    picker.ModifyStyle(DTS_SHORTDATECENTURYFORMAT, DTS_TIMEFORMAT);
+    ui.PressKey(VK_HOME);
+    ui.PressKey(VK_UP);
+    EXPECT_EQ(Date(), "3/2/2024");
+    EXPECT_EQ(Clock(), "11:30:15");
 }
 
 TEST_F(DateTimeCtrlTest, TheButtonOpensTheCalendarAndAClickOnADayPicksIt) {
@@ -354,6 +368,35 @@ TEST_F(DateTimeCtrlTest, AParentThatEndsThePickerWhileItDropsDownLeavesNoCalenda
     EXPECT_EQ(GetCapture(), nullptr);
 }
 
+// An editor over the picker, as a grid lays one over a cell: it tells the focus moving to its
+// own calendar from the focus leaving it.
+class EditorPicker : public CDateTimeCtrl {
+public:
+    std::vector<bool> toOwnCalendar;
+
+protected:
+    void OnKillFocus(CWnd* next) override {
+        toOwnCalendar.push_back(next != nullptr && next == GetMonthCalCtrl());
+        CDateTimeCtrl::OnKillFocus(next);
+    }
+};
+
+TEST_F(DateTimeCtrlTest, ADerivedEditorSeesTheFocusGoToItsOwnCalendar) {
+    EditorPicker editor;
+    ASSERT_TRUE(editor.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 250, 74), &parent, 103));
+    editor.SetTime(&kLeapDayMorning);
+    CRect client;
+    editor.GetClientRect(&client);
+    // The click that opens an editor is passed on to it, and drops the calendar down.
+    editor.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON,
+                       MAKELPARAM(WORD(client.right - 6), WORD(client.Height() / 2)));
+    ASSERT_NE(editor.GetMonthCalCtrl(), nullptr);
+    ui.Click(editor.GetMonthCalCtrl()->m_hWnd, CPoint(-20, -20)); // outside: closes
+    EXPECT_EQ(editor.GetMonthCalCtrl(), nullptr);
+    other.SetFocus();
+    EXPECT_EQ(editor.toOwnCalendar, (std::vector<bool>{true, false}));
+}
+
 TEST_F(DateTimeCtrlTest, SetAndGetTimeRefuseWhatIsNoDateAndKeepToTheRange) {
     SYSTEMTIME bad = kLeapDayMorning;
     bad.wYear = 2023;
@@ -409,6 +452,50 @@ TEST_F(DateTimeCtrlTest, UpDownStyleStepsTheFieldInsteadOfDroppingDown) {
     EXPECT_EQ(Date(), "2/29/2024");
     ui.PressKey(VK_F4);
     EXPECT_EQ(Calendar(), nullptr);
+}
+
+TEST_F(DateTimeCtrlTest, AStormOfClicksAndKeysLeavesAValidDateAndNoStrayCalendar) {
+    constexpr int kEvents = 3000;
+    constexpr UINT kKeys[] = {VK_LEFT, VK_RIGHT, VK_UP,   VK_DOWN,   VK_HOME,   VK_END,
+                              VK_F4,   VK_PRIOR, VK_NEXT, VK_RETURN, VK_ESCAPE, VK_SPACE};
+    constexpr char kTyped[] = "0123456789/:ap ";
+    picker.SetFormat("d'.'MMM'.'yy h':'mm':'ss tt");
+    picker.ModifyStyle(0, DTS_SHOWNONE);
+    std::mt19937 random(20240229);
+    CRect client;
+    picker.GetClientRect(&client);
+    for (int i = 0; i < kEvents; ++i) {
+        switch (random() % 4) {
+        case 0: {
+            const CPoint at(int(random() % 300) - 20, int(random() % 60) - 20);
+            if (HWND calendar = Calendar())
+                ui.Click(calendar, at + CPoint(0, 20));
+            else
+                ui.Click(picker.m_hWnd, at);
+            break;
+        }
+        case 1:
+            ui.PressKey(kKeys[random() % std::size(kKeys)]);
+            break;
+        case 2: {
+            const char typed[2] = {kTyped[random() % (std::size(kTyped) - 1)], '\0'};
+            ui.Type(typed);
+            break;
+        }
+        default:
+            ui.PressKey(VK_UP);
+            break;
+        }
+        SYSTEMTIME st{};
+        const DWORD state = picker.GetTime(&st);
+        ASSERT_TRUE(state == GDT_VALID || state == GDT_NONE);
+        DATE date = 0;
+        ASSERT_TRUE(SystemTimeToVariantTime(&st, &date)) << "event " << i;
+        // The calendar is open exactly while it holds the capture.
+        ASSERT_EQ(GetCapture(), Calendar()) << "event " << i;
+    }
+    picker.DestroyWindow();
+    EXPECT_EQ(GetWindow(parent.m_hWnd, GW_HWNDNEXT), nullptr); // no calendar left behind
 }
 
 TEST(DateTimeCtrlTemplate, ADialogTemplateNamesThePickerByItsClass) {

@@ -1,9 +1,11 @@
 #include "WidgetTestSupport.h"
 
+#include "platform/gdi/DC.h"
 #include "platform/system/SysColors.h"
 #include "platform/widgets/Edit.h"
 
 #include <cctype>
+#include <random>
 
 using ::testing::ElementsAre;
 
@@ -11,6 +13,7 @@ namespace {
 constexpr UINT kEditId = 100;
 const CRect kEditRect(10, 10, 210, 34);
 const CRect kNarrowRect(10, 10, 70, 34);
+constexpr int kWheelLines = 3; // lines a notch of the wheel scrolls
 
 class EditTest : public WidgetTest {
 protected:
@@ -163,7 +166,8 @@ TEST_F(EditTest, EachChangeSendsUpdateThenChangeAndFocusIsAnnounced) {
 }
 
 TEST_F(EditTest, AMultiLineEditIsSilentAboutTextSetByTheProgramAndBreaksLinesOnEnter) {
-    Make(WS_VISIBLE | ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL, CRect(10, 10, 210, 110));
+    Make(WS_VISIBLE | WS_VSCROLL | ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL,
+         CRect(10, 10, 210, 110));
     Focus();
     edit.SetWindowText("first");
     EXPECT_TRUE(CommandsFrom(kEditId).empty());
@@ -183,6 +187,26 @@ TEST_F(EditTest, AMultiLineEditIsSilentAboutTextSetByTheProgramAndBreaksLinesOnE
     char line[16] = {};
     EXPECT_EQ(edit.GetLine(1, line, sizeof line), 6);
     EXPECT_EQ(std::string(line, 6), "second");
+
+    // More lines than the edit shows: the view follows the caret down and back up.
+    edit.SetSel(-1, 0);
+    ui.PressKey(VK_END, MK_CONTROL);
+    for (int i = 0; i < 12; ++i) {
+        ui.PressKey(VK_RETURN);
+        ui.Type("more");
+    }
+    CRect client;
+    edit.GetClientRect(&client);
+    EXPECT_GT(edit.GetFirstVisibleLine(), 0);
+    const CPoint caret = edit.PosFromChar(UINT(edit.GetWindowTextLength()));
+    EXPECT_TRUE(client.PtInRect(caret));
+    EXPECT_EQ(edit.GetScrollPos(SB_VERT), edit.GetFirstVisibleLine());
+    ui.PressKey(VK_HOME, MK_CONTROL);
+    EXPECT_EQ(edit.GetFirstVisibleLine(), 0);
+    ui.Wheel(edit.m_hWnd, CPoint(20, 20), -WHEEL_DELTA); // the wheel scrolls, the caret stays
+    EXPECT_EQ(edit.GetFirstVisibleLine(), kWheelLines);
+    EXPECT_EQ(edit.GetScrollPos(SB_VERT), kWheelLines);
+    EXPECT_EQ(Sel(), std::make_pair(0, 0));
 }
 
 TEST_F(EditTest, TheMouseSetsTheCaretDragsASelectionAndDoubleClickTakesAWord) {
@@ -287,5 +311,112 @@ TEST_F(EditTest, ANotificationHandlerMayDestroyTheEdit) {
     SetFocus(hwnd);
     ui.Type("abc");
     EXPECT_FALSE(IsWindow(hwnd));
+}
+} // namespace
+
+namespace {
+constexpr UINT kCaretBlinkMs = 530;
+
+TEST_F(EditTest, TheCaretBlinksOnTheClockWhileTheEditHasTheFocus) {
+    Make(WS_VISIBLE);
+    Focus();
+    const CPoint caret = At(0);
+    const COLORREF text = GetSysColor(COLOR_WINDOWTEXT), back = GetSysColor(COLOR_WINDOW);
+    EXPECT_EQ(ui.Pixel(edit.m_hWnd, caret), text);
+    ui.Advance(kCaretBlinkMs);
+    EXPECT_EQ(ui.Pixel(edit.m_hWnd, caret), back);
+    ui.Advance(kCaretBlinkMs);
+    EXPECT_EQ(ui.Pixel(edit.m_hWnd, caret), text);
+    ui.Type("x"); // typing shows the caret at once, after the character
+    EXPECT_EQ(ui.Pixel(edit.m_hWnd, At(1)), text);
+    parent.SetFocus();
+    ui.Advance(kCaretBlinkMs);
+    EXPECT_EQ(ui.Pixel(edit.m_hWnd, At(1)), back);
+}
+
+// A parent that colours its edits, as dialogs do through WM_CTLCOLOREDIT.
+class ColouringParent : public CWnd {
+public:
+    static constexpr COLORREF kBack = RGB(255, 255, 0);
+    CBrush brush{kBack};
+
+protected:
+    HBRUSH OnCtlColor(CDC* dc, CWnd*, UINT kind) override {
+        if (kind != CTLCOLOR_EDIT)
+            return nullptr;
+        dc->SetBkColor(kBack);
+        return brush;
+    }
+};
+
+TEST_F(EditTest, TheParentChoosesTheColoursAndTheTextKeepsItsAlignmentAndMargins) {
+    ColouringParent colouring;
+    ASSERT_TRUE(colouring.CreateEx(0, nullptr, "colours", WS_OVERLAPPED | WS_VISIBLE, 0, 0, 300,
+                                   100, nullptr, nullptr));
+    CEdit right, centred;
+    ASSERT_TRUE(right.Create(WS_VISIBLE | ES_RIGHT, kEditRect, &colouring, 1));
+    ASSERT_TRUE(centred.Create(WS_VISIBLE | ES_CENTER, kEditRect + CPoint(0, 30), &parent, 2));
+    right.SetWindowText("12.5");
+    centred.SetWindowText("mid");
+    EXPECT_EQ(ui.Pixel(right.m_hWnd, CPoint(2, 2)), ColouringParent::kBack);
+    EXPECT_EQ(ui.Pixel(centred.m_hWnd, CPoint(2, 2)), GetSysColor(COLOR_WINDOW));
+
+    CRect client;
+    right.GetClientRect(&client);
+    const int end = right.PosFromChar(4).x;
+    EXPECT_GT(end, client.right - 5);
+    EXPECT_LE(end, client.right);
+    const int left = centred.PosFromChar(0).x, rightEdge = centred.PosFromChar(3).x;
+    EXPECT_NEAR(left, client.right - rightEdge, 2);
+
+    CEdit margins;
+    ASSERT_TRUE(margins.Create(WS_VISIBLE, kEditRect + CPoint(0, 60), &parent, 3));
+    margins.SetWindowText("abc");
+    margins.SetMargins(10, 4);
+    EXPECT_EQ(margins.GetMargins(), DWORD(MAKELONG(10, 4)));
+    EXPECT_EQ(margins.PosFromChar(0).x, 10);
+    EXPECT_EQ(LOWORD(margins.CharFromPos(CPoint(3, 5))), 0);
+}
+
+// Keys, typing, clipboard and the mouse in a random order must leave a sane edit behind.
+TEST_F(EditTest, AStormOfInputKeepsTheTextWithinItsLimitAndTheSelectionWithinTheText) {
+    constexpr int kLimit = 20;
+    constexpr int kSteps = 400;
+    Make(WS_VISIBLE | ES_AUTOHSCROLL, kNarrowRect);
+    Focus();
+    edit.LimitText(kLimit);
+    SetClipboard("pasted text");
+    std::mt19937 random(12345);
+    const UINT keys[] = {VK_LEFT, VK_RIGHT, VK_HOME, VK_END, VK_BACK, VK_DELETE, VK_UP, VK_DOWN};
+    const UINT modifiers[] = {0, MK_SHIFT, MK_CONTROL, MK_SHIFT | MK_CONTROL};
+    for (int step = 0; step < kSteps; ++step) {
+        switch (random() % 6) {
+        case 0:
+            ui.PressKey(keys[random() % std::size(keys)], modifiers[random() % 4]);
+            break;
+        case 1:
+            ui.Type(std::string(1 + random() % 3, char('a' + random() % 26)).c_str());
+            break;
+        case 2:
+            ui.PressKey("VXCZ"[random() % 4], MK_CONTROL);
+            break;
+        case 3:
+            ui.Click(edit.m_hWnd, CPoint(int(random() % 70), 8), random() % 2 ? MK_SHIFT : 0);
+            break;
+        case 4:
+            ui.Drag(edit.m_hWnd, CPoint(int(random() % 60), 8), CPoint(int(random() % 60), 8));
+            break;
+        default:
+            ui.Type(" ");
+            break;
+        }
+        const auto [start, end] = Sel();
+        const int length = edit.GetWindowTextLength();
+        ASSERT_LE(length, kLimit) << "step " << step;
+        ASSERT_LE(0, start);
+        ASSERT_LE(start, end);
+        ASSERT_LE(end, length) << "step " << step;
+        ASSERT_EQ(edit.GetFocus(), &edit);
+    }
 }
 } // namespace

@@ -112,6 +112,61 @@ TEST_F(PaintTest, ValidatingASideShrinksTheUpdateAndScrollingMovesChildren) {
     EXPECT_EQ(ui.Pixel(frame.m_hWnd, CPoint(60, 35)), RGB(255, 0, 0));
 }
 
+TEST_F(PaintTest, ScrollingMovesPixelsAndInvalidatesOnlyWhatComesIntoView) {
+    constexpr COLORREF kGreen = RGB(0, 255, 0);
+    const CRect area(160, 100, 300, 200); // clear of the child
+    {
+        CClientDC dc(&frame);
+        dc.FillSolidRect(CRect(200, 150, 300, 160), kGreen);
+    }
+    CRect exposed;
+    EXPECT_EQ(ScrollWindowEx(frame.m_hWnd, 0, -10, &area, &area, nullptr, &exposed, SW_INVALIDATE),
+              SIMPLEREGION);
+    EXPECT_EQ(exposed, CRect(160, 190, 300, 200));
+    CRect update;
+    frame.GetUpdateRect(&update);
+    EXPECT_EQ(update, exposed);
+    EXPECT_EQ(ui.Pixel(frame.m_hWnd, CPoint(250, 140)), kGreen);
+    EXPECT_EQ(ui.Pixel(frame.m_hWnd, CPoint(250, 155)), RGB(0, 0, 255));
+    EXPECT_EQ(CRect(frame.lastPaint), exposed);
+
+    // A part waiting to be painted goes along; sideways the band is on the left.
+    frame.InvalidateRect(CRect(200, 120, 210, 130), FALSE);
+    EXPECT_EQ(ScrollWindowEx(frame.m_hWnd, 20, 0, &area, &area, nullptr, &exposed, SW_INVALIDATE),
+              SIMPLEREGION);
+    EXPECT_EQ(exposed, CRect(160, 100, 180, 200));
+    frame.GetUpdateRect(&update);
+    EXPECT_EQ(update, CRect(160, 100, 230, 200));
+
+    EXPECT_EQ(ScrollWindowEx(frame.m_hWnd, 0, 0, &area, nullptr, nullptr, &exposed, SW_INVALIDATE),
+              NULLREGION);
+}
+
+TEST_F(PaintTest, ScrollingOverAChildOrDiagonallyRepaintsTheWholeArea) {
+    CRect exposed;
+    const CRect client(0, 0, 300, 200);
+    ScrollWindowEx(frame.m_hWnd, 0, -10, nullptr, nullptr, nullptr, &exposed, SW_INVALIDATE);
+    EXPECT_EQ(exposed, client);
+    CRect rect;
+    child.GetWindowRect(&rect);
+    frame.ScreenToClient(&rect);
+    EXPECT_EQ(rect, CRect(50, 40, 150, 120)); // children stay without SW_SCROLLCHILDREN
+    PumpMessages();
+
+    const CRect area(160, 100, 300, 200);
+    ScrollWindowEx(frame.m_hWnd, 5, 5, &area, &area, nullptr, &exposed, 0);
+    EXPECT_EQ(exposed, area);
+    CRect update;
+    EXPECT_FALSE(frame.GetUpdateRect(&update)); // nothing invalidated without SW_INVALIDATE
+
+    ScrollWindowEx(frame.m_hWnd, 0, -10, nullptr, nullptr, nullptr, nullptr,
+                   SW_INVALIDATE | SW_SCROLLCHILDREN);
+    child.GetWindowRect(&rect);
+    frame.ScreenToClient(&rect);
+    EXPECT_EQ(rect, CRect(50, 30, 150, 110));
+    EXPECT_EQ(ui.Pixel(frame.m_hWnd, CPoint(60, 35)), RGB(255, 0, 0));
+}
+
 TEST_F(PaintTest, HidingAChildRepaintsWhatItCovered) {
     child.ShowWindow(SW_HIDE);
     EXPECT_EQ(ui.Pixel(frame.m_hWnd, CPoint(60, 50)), RGB(0, 0, 255));

@@ -1,0 +1,112 @@
+// How costs grow with size, fitted by Google Benchmark: a repaint of a virtual grid does not
+// depend on its row count (up to 100,000,000 rows), SetRowCount grows linearly with the rows,
+// and a line chart's render with its points (up to 10,000,000).
+
+#include "chart/ChartEngine.h"
+#include "chart/ChartPropertyIds.h"
+#include "grid/GridCtrl.h"
+#include "platform/gdi/canvas/Canvas.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr int kClientWidth = 1920;
+constexpr int kClientHeight = 1080;
+constexpr int kRowHeight = 20;
+constexpr int kColWidth = 64;
+constexpr int kCols = 40;
+constexpr int kStoreCols = 20;
+constexpr int kTextRows = 10000;
+constexpr int kChartWidth = 1200;
+constexpr int kChartHeight = 800;
+
+// Texts of one length at any row count, so that only the count changes.
+BOOL AnswerVirtualCell(GV_DISPINFO* request, LPARAM) {
+    request->item.text.Format("%d.%02d", request->item.row % kTextRows, request->item.col);
+    return TRUE;
+}
+
+// A full-HD virtual grid of `rows` rows scrolled to the middle, painted again and again.
+void VirtualRepaintByRows(benchmark::State& state) {
+    const int rows = int(state.range(0));
+    CWnd frame;
+    frame.CreateEx(0, nullptr, "bench", WS_POPUP | WS_VISIBLE, 0, 0, kClientWidth + 40,
+                   kClientHeight + 40, nullptr, nullptr);
+    CGridCtrl grid;
+    grid.Create(CRect(0, 0, kClientWidth, kClientHeight), &frame, 1, WS_CHILD | WS_VISIBLE);
+    grid.SetVirtualMode(TRUE);
+    grid.SetCallbackFunc(AnswerVirtualCell, 0);
+    grid.SetDefCellHeight(kRowHeight);
+    grid.SetRowCount(rows);
+    grid.SetColumnCount(kCols);
+    grid.SetFixedRowCount(1);
+    grid.SetFixedColumnCount(1);
+    for (int col = 0; col < kCols; col++) {
+        grid.SetColumnWidth(col, kColWidth);
+    }
+    grid.SendMessage(WM_SIZE);
+    grid.SetScrollPos32(SB_VERT, rows / 2 * kRowHeight);
+    grid.Invalidate();
+    grid.UpdateWindow();
+    for (auto _ : state) {
+        grid.Invalidate();
+        grid.UpdateWindow();
+    }
+    state.SetComplexityN(rows);
+}
+BENCHMARK(VirtualRepaintByRows)
+    ->RangeMultiplier(100)
+    ->Range(1000, 100000000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::o1);
+
+void SetRowCountByRows(benchmark::State& state) {
+    const int rows = int(state.range(0));
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto grid = std::make_unique<CGridCtrl>();
+        grid->SetColumnCount(kStoreCols);
+        state.ResumeTiming();
+        grid->SetRowCount(rows);
+        state.PauseTiming();
+        grid.reset();
+        state.ResumeTiming();
+    }
+    state.SetComplexityN(rows);
+}
+BENCHMARK(SetRowCountByRows)
+    ->RangeMultiplier(10)
+    ->Range(1000, 100000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+
+void RenderLineByPoints(benchmark::State& state) {
+    const int points = int(state.range(0));
+    std::vector<double> xs(size_t(points), 0.0), ys(size_t(points), 0.0);
+    for (int i = 0; i < points; ++i) {
+        xs[size_t(i)] = i * 0.01;
+        ys[size_t(i)] = std::sin(i * 1e-4) * 50 + std::sin(i * 0.37) * 5;
+    }
+    ChartEngine engine(kChartWidth, kChartHeight);
+    engine.Properties().SetInt(chartprop::CurveCount, 1);
+    engine.Properties().SetInt(chartprop::PointCount, points);
+    engine.SetArray(chartprop::XData, xs.data(), points);
+    engine.SetArray(chartprop::YData, ys.data(), points);
+    auto canvas = Canvas::CreateImage(kChartWidth, kChartHeight);
+    for (auto _ : state) {
+        engine.RenderTo(*canvas);
+    }
+    state.SetComplexityN(points);
+}
+BENCHMARK(RenderLineByPoints)
+    ->RangeMultiplier(10)
+    ->Range(10000, 10000000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+
+} // namespace

@@ -1,0 +1,413 @@
+// The "MDIClient" window: it holds a frame's document windows, knows the active one and whether
+// they are maximised, places new ones in a cascade, and arranges them. The default procedures
+// of the frame and of the document windows lead here.
+//
+// Sections: the client's state; placing; activation, maximising and restoring; the client's
+// procedure; DefMDIChildProc and DefFrameProc.
+
+#include "platform/window/MdiFrame.h"
+#include "platform/window/MdiState.h"
+#include "platform/window/WindowRecord.h"
+
+#include "platform/system/SysColors.h"
+#include "platform/system/SystemMetrics.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+namespace wm {
+namespace {
+
+// ---- The client's state ----
+
+struct ClientState {
+    HWND active = nullptr;
+    bool maximized = false;
+    int nextCascade = 0;
+    std::map<HWND, CRect> restoreRects; // where each maximised child goes back to
+};
+
+// The MDI clients of the one user-interface thread.
+std::map<HWND, ClientState>& Clients() {
+    static auto& clients = *new std::map<HWND, ClientState>;
+    return clients;
+}
+
+ClientState* StateOf(HWND client) {
+    auto& clients = Clients();
+    const auto it = clients.find(client);
+    return it == clients.end() ? nullptr : &it->second;
+}
+
+int CascadeStep() {
+    return GetSystemMetrics(SM_CYCAPTION) + GetSystemMetrics(SM_CYFRAME);
+}
+
+CSize ClientSize(HWND client) {
+    RECT r{};
+    GetClientRect(client, &r);
+    return CSize(r.right, r.bottom);
+}
+
+// The document windows, topmost first, leaving out those on their way out.
+std::vector<HWND> Children(HWND client) {
+    std::vector<HWND> children;
+    if (const WindowRecord* w = Find(client))
+        for (HWND child : w->children)
+            if (const WindowRecord* c = Find(child); c && !c->destroying)
+                children.push_back(child);
+    return children;
+}
+
+// ---- Placing ----
+
+CSize DefaultChildSize(HWND client) {
+    const CSize area = ClientSize(client);
+    return CSize(std::max<LONG>(area.cx * 3 / 4, 160), std::max<LONG>(area.cy * 3 / 4, 120));
+}
+
+// The rectangle that makes a child's client area fill the MDI client: its frame and caption
+// lie outside, where the client clips them.
+CRect MaximizedRect(HWND client, const WindowRecord& child) {
+    const FrameMetrics m = GetFrameMetrics(child);
+    // The scroll bars stay inside, as part of what the document shows.
+    const int right = m.right - (m.vscroll ? GetSystemMetrics(SM_CXVSCROLL) : 0);
+    const int bottom = m.bottom - (m.hscroll ? GetSystemMetrics(SM_CYHSCROLL) : 0);
+    const CSize area = ClientSize(client);
+    return CRect(-m.left, -m.top, area.cx + right, area.cy + bottom);
+}
+
+// ---- Activation, maximising and restoring ----
+
+void Redraw(HWND hwnd) {
+    if (WindowRecord* w = Find(hwnd))
+        InvalidateFrame(*w);
+}
+
+void Maximize(HWND client, ClientState& state, HWND child) {
+    WindowRecord* w = Find(child);
+    if (!w)
+        return;
+    if (!(w->style & WS_MAXIMIZE))
+        state.restoreRects[child] = w->rect;
+    w->style |= WS_MAXIMIZE;
+    state.maximized = true;
+    const CRect rect = MaximizedRect(client, *w);
+    SetWindowPos(child, nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+void Restore(ClientState& state, HWND child) {
+    WindowRecord* w = Find(child);
+    if (!w || !(w->style & WS_MAXIMIZE))
+        return;
+    w->style &= ~WS_MAXIMIZE;
+    const auto it = state.restoreRects.find(child);
+    const CRect rect = it != state.restoreRects.end() ? it->second : w->rect;
+    state.restoreRects.erase(child);
+    SetWindowPos(child, nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+void Activate(HWND client, HWND child) {
+    ClientState* state = StateOf(client);
+    if (!state || (child && GetParent(child) != client))
+        return;
+    const HWND old = state->active;
+    if (old == child)
+        return;
+    // A maximised set stays maximised: the new window takes the old one's place.
+    const bool maximized = state->maximized;
+    state->active = child;
+    if (child)
+        SetWindowPos(child, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    if (maximized && old)
+        Restore(*state, old);
+    if ((state = StateOf(client)) && maximized && child)
+        Maximize(client, *state, child);
+    Redraw(old);
+    Redraw(child);
+    if (IsWindow(old))
+        SendMessage(old, WM_MDIACTIVATE, WPARAM(old), LPARAM(child));
+    if (IsWindow(child)) {
+        SendMessage(child, WM_MDIACTIVATE, WPARAM(old), LPARAM(child));
+        // The keyboard follows the active document when its frame has it.
+        const HWND frame = GetAncestor(client, GA_ROOT);
+        const HWND focus = GetFocus();
+        if (IsWindow(child) && GetActiveWindow() == frame && focus != child &&
+            !IsChild(child, focus))
+            SetFocus(child);
+    }
+}
+
+// The next document window after (or before) `from` in the z-order, wrapping.
+HWND Neighbour(HWND client, HWND from, bool previous) {
+    const std::vector<HWND> children = Children(client);
+    if (children.empty())
+        return nullptr;
+    const auto it = std::find(children.begin(), children.end(), from);
+    if (it == children.end())
+        return children.front();
+    if (previous)
+        return children.back();
+    return std::next(it) == children.end() ? children.front() : *std::next(it);
+}
+
+void Cascade(HWND client) {
+    std::vector<HWND> children = Children(client);
+    std::reverse(children.begin(), children.end());
+    if (ClientState* state = StateOf(client); state && state->maximized && state->active)
+        Restore(*state, state->active), state->maximized = false;
+    const CSize size = DefaultChildSize(client);
+    int i = 0;
+    for (HWND child : children) {
+        SetWindowPos(child, nullptr, i * CascadeStep(), i * CascadeStep(), size.cx, size.cy,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+        ++i;
+    }
+    if (ClientState* state = StateOf(client))
+        state->nextCascade = i;
+}
+
+void Tile(HWND client) {
+    const std::vector<HWND> children = Children(client);
+    if (children.empty())
+        return;
+    if (ClientState* state = StateOf(client); state && state->maximized && state->active)
+        Restore(*state, state->active), state->maximized = false;
+    const int n = int(children.size());
+    const int columns = int(std::ceil(std::sqrt(double(n))));
+    const int rows = (n + columns - 1) / columns;
+    const CSize area = ClientSize(client);
+    for (int i = 0; i < n; ++i) {
+        const int col = i % columns, row = i / columns;
+        const CRect cell(area.cx * col / columns, area.cy * row / rows,
+                         area.cx * (col + 1) / columns, area.cy * (row + 1) / rows);
+        SetWindowPos(children[size_t(i)], nullptr, cell.left, cell.top, cell.Width(), cell.Height(),
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+}
+
+// ---- The client's procedure ----
+
+LRESULT MdiClientProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_NCCREATE:
+        Clients()[hwnd] = ClientState{};
+        return DefWindowProc(hwnd, message, wParam, lParam);
+    case WM_NCDESTROY:
+        Clients().erase(hwnd);
+        return DefWindowProc(hwnd, message, wParam, lParam);
+    case WM_MDICREATE: {
+        const auto* mdi = reinterpret_cast<const MDICREATESTRUCT*>(lParam);
+        if (!mdi)
+            return 0;
+        const CRect rect =
+            PlaceNewChild(hwnd, CRect(mdi->x, mdi->y, mdi->x + mdi->cx, mdi->y + mdi->cy));
+        const HWND child = CreateWindowEx(WS_EX_MDICHILD, mdi->szClass, mdi->szTitle,
+                                          mdi->style | WS_CHILD | WS_CLIPSIBLINGS, rect.left,
+                                          rect.top, rect.Width(), rect.Height(), hwnd, nullptr,
+                                          nullptr, reinterpret_cast<LPVOID>(mdi->lParam));
+        AdoptChild(hwnd, child);
+        return LRESULT(child);
+    }
+    case WM_MDIDESTROY:
+        DestroyWindow(HWND(wParam));
+        return 0;
+    case WM_MDIACTIVATE:
+        Activate(hwnd, HWND(wParam));
+        return 0;
+    case WM_MDIGETACTIVE: {
+        const ClientState* state = StateOf(hwnd);
+        if (auto* maximized = reinterpret_cast<BOOL*>(lParam))
+            *maximized = state && state->active && state->maximized;
+        return state ? LRESULT(state->active) : 0;
+    }
+    case WM_MDIMAXIMIZE:
+        if (ClientState* state = StateOf(hwnd); state && GetParent(HWND(wParam)) == hwnd) {
+            Activate(hwnd, HWND(wParam));
+            if ((state = StateOf(hwnd)))
+                Maximize(hwnd, *state, HWND(wParam));
+        }
+        return 0;
+    case WM_MDIRESTORE:
+        if (ClientState* state = StateOf(hwnd); state && GetParent(HWND(wParam)) == hwnd) {
+            Restore(*state, HWND(wParam));
+            if (HWND(wParam) == state->active)
+                state->maximized = false;
+        }
+        return 0;
+    case WM_MDINEXT:
+        if (ClientState* state = StateOf(hwnd)) {
+            const HWND from = wParam ? HWND(wParam) : state->active;
+            const HWND next = Neighbour(hwnd, from, lParam != 0);
+            Activate(hwnd, next);
+            // Going forward sends the old window to the back, as the framework does.
+            if (!lParam && from && from != next)
+                SetWindowPos(from, HWND_BOTTOM, 0, 0, 0, 0,
+                             SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        }
+        return 0;
+    case WM_MDICASCADE:
+        Cascade(hwnd);
+        return TRUE;
+    case WM_MDITILE:
+        Tile(hwnd);
+        return TRUE;
+    case WM_SIZE:
+        if (ClientState* state = StateOf(hwnd); state && state->maximized && state->active)
+            if (const WindowRecord* child = Find(state->active)) {
+                const CRect rect = MaximizedRect(hwnd, *child);
+                SetWindowPos(state->active, nullptr, rect.left, rect.top, rect.Width(),
+                             rect.Height(), SWP_NOZORDER | SWP_NOACTIVATE);
+            }
+        return 0;
+    default:
+        return DefWindowProc(hwnd, message, wParam, lParam);
+    }
+}
+
+} // namespace
+
+const char* const kMdiClientClass = "MDIClient";
+
+void RegisterMdiClientClass() {
+    WNDCLASS cls{};
+    if (GetClassInfo(nullptr, kMdiClientClass, &cls))
+        return;
+    cls.lpfnWndProc = MdiClientProc;
+    cls.hCursor = LoadCursor(nullptr, IDC_ARROW);
+    cls.hbrBackground = reinterpret_cast<HBRUSH>(std::uintptr_t(COLOR_APPWORKSPACE + 1));
+    cls.lpszClassName = kMdiClientClass;
+    RegisterClass(&cls);
+}
+
+CRect PlaceNewChild(HWND client, CRect requested) {
+    ClientState* state = StateOf(client);
+    if (!state)
+        return requested;
+    if (requested.left == CW_USEDEFAULT) {
+        const CSize area = ClientSize(client);
+        const CSize size = DefaultChildSize(client);
+        int step = state->nextCascade * CascadeStep();
+        // Start the cascade again when the next window would run off the client.
+        if (step + size.cx > area.cx || step + size.cy > area.cy) {
+            state->nextCascade = 0;
+            step = 0;
+        }
+        ++state->nextCascade;
+        return CRect(CPoint(step, step), size);
+    }
+    return requested;
+}
+
+void AdoptChild(HWND client, HWND child) {
+    WindowRecord* w = Find(child);
+    if (!w || GetParent(child) != client)
+        return;
+    // A window created with WS_MAXIMIZE opens maximised, its created rectangle kept for
+    // restoring.
+    const bool maximize = (w->style & WS_MAXIMIZE) != 0;
+    w->style &= ~WS_MAXIMIZE;
+    Activate(client, child);
+    if (ClientState* state = StateOf(client); state && maximize && IsWindow(child))
+        Maximize(client, *state, child);
+}
+
+void ChildGoing(HWND client, HWND child) {
+    ClientState* state = StateOf(client);
+    if (!state)
+        return;
+    state->restoreRects.erase(child);
+    if (state->active != child)
+        return;
+    const bool maximized = state->maximized;
+    state->active = nullptr;
+    std::vector<HWND> rest = Children(client);
+    std::erase(rest, child);
+    if (rest.empty()) {
+        state->maximized = false;
+        return;
+    }
+    Activate(client, rest.front());
+    if ((state = StateOf(client)) && maximized && state->active)
+        Maximize(client, *state, state->active);
+}
+
+HWND ActiveMdiChild(HWND client) {
+    const ClientState* state = StateOf(client);
+    return state ? state->active : nullptr;
+}
+
+} // namespace wm
+
+// ---- DefMDIChildProc and DefFrameProc ----
+
+using namespace wm;
+
+LRESULT DefMDIChildProc(HWND child, UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND client = GetParent(child);
+    switch (message) {
+    case WM_MOUSEACTIVATE:
+        // A click anywhere in a document window makes it the active one.
+        if (ActiveMdiChild(client) != child)
+            Activate(client, child);
+        break;
+    case WM_CHILDACTIVATE:
+        Activate(client, child);
+        return 0;
+    case WM_DESTROY:
+        ChildGoing(client, child);
+        break;
+    case WM_SYSCOMMAND:
+        switch (wParam & 0xFFF0) {
+        case SC_MAXIMIZE:
+            SendMessage(client, WM_MDIMAXIMIZE, WPARAM(child), 0);
+            return 0;
+        case SC_RESTORE:
+            SendMessage(client, WM_MDIRESTORE, WPARAM(child), 0);
+            return 0;
+        case SC_NEXTWINDOW:
+            SendMessage(client, WM_MDINEXT, WPARAM(child), 0);
+            return 0;
+        default:
+            break;
+        }
+        break;
+    case WM_SETTEXT:
+    case WM_GETMINMAXINFO:
+    default:
+        break;
+    }
+    return DefWindowProc(child, message, wParam, lParam);
+}
+
+LRESULT DefFrameProc(HWND frame, HWND mdiClient, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_SIZE:
+        // The client fills the frame's client area.
+        if (IsWindow(mdiClient))
+            MoveWindow(mdiClient, 0, 0, LOWORD(std::uintptr_t(lParam)),
+                       HIWORD(std::uintptr_t(lParam)), TRUE);
+        return 0;
+    case WM_ACTIVATE:
+        // The active document's caption follows the frame's.
+        Redraw(ActiveMdiChild(mdiClient));
+        if (LOWORD(wParam) != WA_INACTIVE)
+            if (const HWND active = ActiveMdiChild(mdiClient)) {
+                SetFocus(active);
+                return 0;
+            }
+        break;
+    case WM_SETFOCUS:
+        if (const HWND active = ActiveMdiChild(mdiClient)) {
+            SetFocus(active);
+            return 0;
+        }
+        break;
+    default:
+        break;
+    }
+    return DefWindowProc(frame, message, wParam, lParam);
+}
