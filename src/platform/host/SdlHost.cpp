@@ -375,12 +375,13 @@ void SdlHost::Deliver(const SDL_Event& event) {
         break;
     case SDL_DROPTEXT: {
         // Text dragged in from another program: the drop target under the mouse takes it.
-        POINT screen{};
-        GetCursorPos(&screen);
-        if (event.drop.file) {
-            DeliverDroppedText(screen, Latin1FromUtf8(event.drop.file).c_str());
-            SDL_free(event.drop.file);
-        }
+        int x = 0;
+        int y = 0;
+        SDL_GetMouseState(&x, &y);
+        const HWND hwnd = FromSdlId(event.drop.windowID);
+        if (hwnd && event.drop.file)
+            DeliverDroppedText(ToScreen(hwnd, x, y), Latin1FromUtf8(event.drop.file).c_str());
+        SDL_free(event.drop.file);
         break;
     }
     default:
