@@ -28,9 +28,10 @@ test: build
 $(ASAN_BUILD)/build.ninja:
 	CC=clang CXX=clang++ cmake -S . -B $(ASAN_BUILD) -G Ninja -DORVA_SANITIZE=ON -DORVA_BUILD_BENCH=OFF -DCMAKE_BUILD_TYPE=Debug
 
+# The sanitizer run plays the whole event storm: 250,000 events on each of its four grids.
 test-asan: deps $(ASAN_BUILD)/build.ninja
 	cmake --build $(ASAN_BUILD) -j $(JOBS)
-	cd $(ASAN_BUILD) && ASAN_OPTIONS=detect_leaks=1 LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan.supp UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j $(JOBS)
+	cd $(ASAN_BUILD) && ORVA_STORM_EVENTS=250000 ASAN_OPTIONS=detect_leaks=1 LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan.supp UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j $(JOBS)
 
 bench: deps
 	cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=Release

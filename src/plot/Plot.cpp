@@ -26,10 +26,6 @@ constexpr int kTitleBuffer = 1024;
 constexpr int kBitmapSize[] = {600, 430};
 constexpr int kMetafileSize[] = {500, 300};
 
-// The document area's messages: which child is active (and whether maximised), and restore.
-constexpr UINT kMdiGetActive = 0x0229;
-constexpr UINT kMdiRestore = 0x0223;
-
 constexpr int kKeepImageHandles = 2155; // 1: the chart keeps a device context on its image
 constexpr int kImageBitmapWanted = 2574;
 constexpr int kImageBitmap = 2575;
@@ -43,13 +39,13 @@ template <class Handle> Handle HandleFromInt(int value) {
 // A new document window opens restored: a maximised active document is restored first.
 void RestoreMaximisedDocument() {
     HWND area = PlotDocumentArea();
-    if (!area || area == SafeHwnd(AfxGetMainWnd()))
-        return; // no document area: the main window is no document frame
+    if (!area)
+        return; // the main window is no multiple-document frame
     BOOL maximised = FALSE;
     auto active = reinterpret_cast<HWND>(
-        SendMessage(area, kMdiGetActive, 0, reinterpret_cast<LPARAM>(&maximised)));
+        SendMessage(area, WM_MDIGETACTIVE, 0, reinterpret_cast<LPARAM>(&maximised)));
     if (active && maximised)
-        SendMessage(area, kMdiRestore, reinterpret_cast<WPARAM>(active), 0);
+        SendMessage(area, WM_MDIRESTORE, reinterpret_cast<WPARAM>(active), 0);
 }
 
 } // namespace

@@ -21,8 +21,9 @@ CPlotWindowTop* g_topHead = nullptr;
 PlotClosedCallback g_closedCallback = nullptr;
 const std::thread::id g_mainThread = std::this_thread::get_id();
 
-constexpr DWORD kDocumentStyle = 0x57CF0000; // visible child with caption and sizing frame
-constexpr DWORD kHiddenDocumentStyle = kDocumentStyle & ~WS_VISIBLE;
+// Visible, maximised child with caption and sizing frame; and hidden, without clipping.
+constexpr DWORD kDocumentStyle = 0x57CF0000;
+constexpr DWORD kHiddenDocumentStyle = 0x44CF0000;
 constexpr DWORD kTopStyle = 0x96CF0000; // visible pop-up with caption and sizing frame
 
 template <class Host> void UnlinkFrom(Host*& head, Host* window) {

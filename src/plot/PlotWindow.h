@@ -1,16 +1,16 @@
 #pragma once
 
-// CPlotWindow: a document child of the application's main window that hosts one chart. It owns
-// itself: it is deleted after its window goes.
+// CPlotWindow: a document window of the application's multiple-document frame that hosts one
+// chart. It owns itself, as every document window does: it is deleted after its window goes.
 
-#include "platform/window/Wnd.h"
+#include "platform/window/MdiFrame.h"
 
-class ORVA_API CPlotWindow : public CWnd {
+class ORVA_API CPlotWindow : public CMDIChildWnd {
 public:
     CPlotWindow() = default;
 
-    // Makes the window as a document child of the main window, hidden unless `style` says
-    // visible, at the default place; false if there is nowhere to put it.
+    // Makes the window in the main window's document area, at the next default place, visible
+    // only if `style` says so; false when the main window is no multiple-document frame.
     BOOL CreateDocument(const char* title, DWORD style);
 
     CPlotWindow* m_next = nullptr;
@@ -21,9 +21,8 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void OnSize(UINT type, int cx, int cy) override;
     void OnDestroy() override;
-    void PostNcDestroy() override; // deletes this object
 };
 
-// The window that document children live in: the main window's "MDIClient" child when it has
-// one, otherwise the main window itself; null without a main window.
+// The main window's document area (its "MDIClient" window); null when the main window is no
+// multiple-document frame.
 ORVA_API HWND PlotDocumentArea();

@@ -4,6 +4,7 @@
 #include "controls/DialogORVA.h"
 
 #include "platform/base/Messages.h"
+#include "platform/system/SystemMetrics.h"
 #include "platform/window/WindowApi.h"
 #include "platform/window/WindowStyles.h"
 
@@ -71,8 +72,10 @@ void Resize(CWnd& dialog, int width, int height) {
     dialog.SetWindowPos(nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
 }
 
+// Asks as the window layer does: the record comes filled with the system's limits.
 MINMAXINFO AskMinMax(const CWnd& dialog) {
     MINMAXINFO info{};
+    info.ptMaxTrackSize = POINT{GetSystemMetrics(SM_CXMAXTRACK), GetSystemMetrics(SM_CYMAXTRACK)};
     dialog.SendMessage(WM_GETMINMAXINFO, 0, LPARAM(&info));
     return info;
 }
@@ -170,7 +173,8 @@ TEST_F(DialogResize, MinimumIsTheDesignSizeUnlessTheClassSetsOne) {
         const MINMAXINFO info = AskMinMax(dialog);
         EXPECT_EQ(info.ptMinTrackSize.x, design.Width());
         EXPECT_EQ(info.ptMinTrackSize.y, design.Height());
-        EXPECT_GT(info.ptMaxTrackSize.x, 0); // the rest of the record keeps its defaults
+        // The rest of the record keeps what the system put there.
+        EXPECT_EQ(info.ptMaxTrackSize.x, GetSystemMetrics(SM_CXMAXTRACK));
         dialog.DestroyWindow();
     }
     {

@@ -4,6 +4,7 @@
 
 #include "chart/ChartApi.h"
 #include "chart/ChartPropertyIds.h"
+#include "platform/window/WindowIcons.h"
 #include "plot/PlotCanvas.h"
 #include "plot/PlotWindowTop.h"
 
@@ -208,6 +209,77 @@ TEST_F(PlotLifeTest, CanvasGivenANewChartDestroysTheOldOne) {
 TEST_F(PlotLifeTest, NoCanvasWithoutAParent) {
     EXPECT_EQ(CreatePlotWindow(kLineChart, "", 0, kCanvasControl, nullptr, nullptr, kDocument),
               nullptr);
+}
+
+} // namespace
+
+namespace {
+
+class PlotDocumentTest : public PlotFixture {};
+
+TEST_F(PlotDocumentTest, DocumentPlotsLiveInTheFramesDocumentArea) {
+    auto* first = new RecordingPlot(kLineChart, "First", nullptr, kDocument, 0);
+    ASSERT_NE(first->GetHwnd(), nullptr);
+    HWND firstHost = GetParent(first->GetHwnd());
+    EXPECT_EQ(GetParent(firstHost), mainWindow.m_hWndMDIClient);
+    EXPECT_TRUE(IsWindowVisible(firstHost));
+    RECT host{}, chart{};
+    GetClientRect(firstHost, &host);
+    GetClientRect(first->GetHwnd(), &chart);
+    EXPECT_EQ(chart.right, host.right);
+    EXPECT_EQ(chart.bottom, host.bottom);
+
+    // A maximised document is restored before a new one opens.
+    mainWindow.MDIMaximize(CWnd::FromHandle(firstHost));
+    BOOL maximised = FALSE;
+    mainWindow.MDIGetActive(&maximised);
+    ASSERT_TRUE(maximised);
+    CRect place(20, 20, 420, 320);
+    auto* second = new RecordingPlot(kLineChart, "Second", &place, kDocument, 0);
+    HWND secondHost = GetParent(second->GetHwnd());
+    mainWindow.MDIGetActive(&maximised);
+    EXPECT_FALSE(maximised);
+    EXPECT_EQ(GetWindowLong(firstHost, GWL_STYLE) & WS_MAXIMIZE, 0);
+    CRect placed;
+    GetWindowRect(secondHost, &placed);
+    ScreenToClient(mainWindow.m_hWndMDIClient, reinterpret_cast<POINT*>(&placed.left));
+    ScreenToClient(mainWindow.m_hWndMDIClient, reinterpret_cast<POINT*>(&placed.right));
+    EXPECT_EQ(placed, place);
+
+    // Closing the document window ends its plot, as for any host.
+    SendMessage(secondHost, WM_CLOSE);
+    driver.Pump();
+    EXPECT_FALSE(IsWindow(secondHost));
+    EXPECT_EQ(g_plotList.PlotFromHwnd(first->GetHwnd()), first);
+    EXPECT_EQ(g_plotList.NumPlots(), 1);
+    EXPECT_EQ(ClosedMessages().size(), 1u);
+}
+
+TEST_F(PlotDocumentTest, DocumentWindowsWearThePlotIcon) {
+    constexpr UINT kPlotIcon = 128;
+    constexpr int kIconSize = 16;
+    ASSERT_TRUE(RegisterIconResource(
+        kPlotIcon, kIconSize, std::vector<std::uint32_t>(kIconSize * kIconSize, 0xFF2060A0)));
+    auto* plot = new RecordingPlot(kLineChart, "Iconic", nullptr, kDocument, 0);
+    HWND host = GetParent(plot->GetHwnd());
+    const auto icon = LRESULT(LoadIcon(nullptr, MAKEINTRESOURCE(kPlotIcon)));
+    EXPECT_EQ(SendMessage(host, WM_GETICON, ICON_BIG, 0), icon);
+    EXPECT_EQ(SendMessage(host, WM_GETICON, ICON_SMALL, 0), icon);
+}
+
+TEST_F(PlotDocumentTest, NoDocumentPlotWithoutADocumentFrame) {
+    CWnd plain;
+    ASSERT_TRUE(
+        plain.CreateEx(0, nullptr, "Plain", WS_OVERLAPPEDWINDOW, 0, 0, 300, 200, nullptr, nullptr));
+    AfxSetMainWnd(&plain);
+    auto* plot = new RecordingPlot(kLineChart, "Nowhere", nullptr, kDocument, 0);
+    EXPECT_EQ(plot->GetHwnd(), nullptr);
+    EXPECT_EQ(plot->SetPlotDefaults(), 0);
+    EXPECT_EQ(g_plotList.NumPlots(), 1); // registered all the same
+    delete plot;
+    EXPECT_EQ(g_plotList.NumPlots(), 0);
+    AfxSetMainWnd(&mainWindow);
+    plain.DestroyWindow();
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "chart/ChartPropertyIds.h"
 #include "platform/gdi/DC.h"
 #include "platform/gdi/GdiObject.h"
+#include "platform/system/SysColors.h"
 #include "plot/PlotCanvas.h"
 #include "plot/PlotData.h"
 
@@ -208,9 +209,12 @@ TEST_F(PlotObjectTest, ClicksReachTheHooksFromEveryHost) {
     ASSERT_EQ(top->clicks.size(), 2u);
     EXPECT_EQ(top->clicks[1], std::make_pair(0, 4));
 
+    CWnd dialog; // the application's own window that holds the canvas
+    ASSERT_TRUE(dialog.CreateEx(0, nullptr, "Dialog", WS_POPUP | WS_VISIBLE, 0, 0, 340, 260,
+                                nullptr, nullptr));
     PlotCanvas canvas;
     ASSERT_TRUE(canvas.Create(kPlotCanvasClass, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 320, 240),
-                              &mainWindow, 5));
+                              &dialog, 5));
     auto* inCanvas = new RecordingPlot(kLineChart, "", kCanvasControl, 0, canvas.m_hWnd);
     EXPECT_EQ(canvas.GetPlotHwnd(), inCanvas->GetHwnd());
     EXPECT_EQ(GetDlgCtrlID(inCanvas->GetHwnd()), kCanvasControl);
@@ -223,6 +227,7 @@ TEST_F(PlotObjectTest, ClicksReachTheHooksFromEveryHost) {
     canvas.DestroyWindow();
     EXPECT_FALSE(IsWindow(inCanvas->GetHwnd()));
     delete inCanvas;
+    dialog.DestroyWindow();
 }
 
 TEST_F(PlotObjectTest, CanvasFollowsItsSizeAndKeepsItsBorderType) {
@@ -294,6 +299,52 @@ TEST_F(PlotDragTest, DraggingAPointMovesOnlyItsY) {
     EXPECT_EQ(plot->ended, std::make_pair(-1, -1));
     // A right click on a plot without a menu is left to the chart.
     EXPECT_EQ(pmHandlePlotEvent(PLOTEVT_RBUTTON, plot->GetHwnd()), 0);
+}
+
+} // namespace
+
+namespace {
+
+constexpr int kBorder = 3;
+constexpr CRect kCanvasPlace(10, 10, 210, 110);
+
+class PlotCanvasBorderTest : public PlotFixture {
+protected:
+    void SetUp() override {
+        PlotFixture::SetUp();
+        ASSERT_TRUE(dialog.CreateEx(0, nullptr, "Dialog", WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN,
+                                    0, 0, 300, 200, nullptr, nullptr));
+    }
+    void TearDown() override {
+        plot_canvas::ShowPlotCanvasBorder(false);
+        dialog.DestroyWindow();
+        PlotFixture::TearDown();
+    }
+    CWnd dialog;
+};
+
+TEST_F(PlotCanvasBorderTest, BorderIsReservedAroundTheChartAndDrawnAsAnEdge) {
+    plot_canvas::ShowPlotCanvasBorder(true);
+    PlotCanvas canvas;
+    ASSERT_TRUE(
+        canvas.Create(kPlotCanvasClass, "", WS_CHILD | WS_VISIBLE, kCanvasPlace, &dialog, 7));
+    HWND chart = CreatePlotWindow(kLineChart, "", 0, kCanvasControl, canvas.m_hWnd, nullptr, 0);
+    ASSERT_NE(chart, nullptr);
+    RECT client{};
+    GetClientRect(chart, &client);
+    EXPECT_EQ(client.right, kCanvasPlace.Width() - 2 * kBorder);
+    EXPECT_EQ(client.bottom, kCanvasPlace.Height() - 2 * kBorder);
+    const POINT corner{kCanvasPlace.right - 1, kCanvasPlace.bottom - 1};
+    driver.Pump();
+    canvas.SetBorderType(PLOT_CANVAS_BORDER); // paints the edge at once
+    EXPECT_EQ(driver.Pixel(dialog.m_hWnd, corner), GetSysColor(COLOR_3DDKSHADOW));
+
+    plot_canvas::ShowPlotCanvasBorder(false);
+    PlotCanvas plain;
+    ASSERT_TRUE(plain.Create(kPlotCanvasClass, "", WS_CHILD | WS_VISIBLE, CRect(0, 120, 100, 180),
+                             &dialog, 8));
+    plain.GetClientRect(&client);
+    EXPECT_EQ(client.right, 100);
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 
 #include "platform/testing/NotificationRecorder.h"
 #include "platform/testing/UiDriver.h"
+#include "platform/window/MdiFrame.h"
 #include "platform/window/Wnd.h"
 
 #include <gtest/gtest.h>
@@ -58,8 +59,8 @@ private:
 class PlotFixture : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(mainWindow.CreateEx(0, nullptr, "Application", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
-                                        0, 0, 800, 600, nullptr, nullptr));
+        ASSERT_TRUE(mainWindow.Create(nullptr, "Application", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                                      CRect(0, 0, 800, 600)));
         AfxSetMainWnd(&mainWindow);
         recorder = std::make_unique<NotificationRecorder>(mainWindow.m_hWnd);
         recorder->Watch(WM_PLOT_CLOSED);
@@ -82,7 +83,7 @@ protected:
         return closed;
     }
 
-    CWnd mainWindow;
+    CMDIFrameWnd mainWindow; // the application's multiple-document frame
     std::unique_ptr<NotificationRecorder> recorder;
     UiDriver driver;
 };

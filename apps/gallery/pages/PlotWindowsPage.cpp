@@ -6,6 +6,8 @@
 
 #include "platform/system/SysColors.h"
 #include "platform/window/Dialog.h"
+#include "platform/window/DialogTemplate.h"
+#include "platform/window/MdiFrame.h"
 #include "platform/window/WindowStyles.h"
 #include "platform/window/Wnd.h"
 #include "plot/Plot.h"
@@ -126,7 +128,7 @@ void CrossSection(EPlot& plot) {
 }
 
 struct PlotWindowsPage {
-    CWnd frame;
+    CMDIFrameWnd frame;
     ReadingFeed feed;
     CDialog dialog{kCanvasDialog};
     PlotCanvas canvas;
@@ -135,15 +137,12 @@ struct PlotWindowsPage {
 void BuildPlotWindowsPage(GalleryContext& context) {
     static PlotWindowsPage page;
     CWnd* previousMain = AfxGetMainWnd();
-    const LPCSTR frameClass = AfxRegisterWndClass(CS_DBLCLKS, LoadCursor(nullptr, IDC_ARROW),
-                                                  HBRUSH(COLOR_APPWORKSPACE + 1));
-    page.frame.CreateEx(0, frameClass, "Flume bench - plot documents",
-                        WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN | WS_VISIBLE, 20, 20, 980, 700,
-                        nullptr, nullptr);
+    page.frame.Create(nullptr, "Flume bench - plot documents", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                      CRect(20, 20, 1000, 730));
     AfxSetMainWnd(&page.frame);
     pmPlotDefaults(0); // a closing plot window deletes its plot
 
-    // Document children, placed in the frame's client area.
+    // Document windows, placed in the frame's document area.
     CRect place(6, 6, 482, 326);
     EPlot* line = new EPlot(kLineChart, "Water levels", &place, kDocument, 0);
     LinePlot(*line);
@@ -180,11 +179,28 @@ void BuildPlotWindowsPage(GalleryContext& context) {
 
     // A canvas that the application placed in its own dialog, with the canvases' border.
     plot_canvas::ShowPlotCanvasBorder(true);
-    RegisterDialogTemplate(
-        kCanvasDialog,
-        {"Cross-section",
-         {280, 180},
-         {{kPlotCanvasClass, "", UINT(kCanvasControl), WS_VISIBLE, {7, 7, 273, 173}}}});
+    DialogTemplate canvasDialog;
+    canvasDialog.caption = "Cross-section";
+    canvasDialog.size = {280, 200};
+    canvasDialog.items = {
+        {"Static",
+         "Bed survey of the reach at chainage 450 m:",
+         0,
+         WS_VISIBLE | SS_LEFT,
+         {7, 7, 273, 17}},
+        {kPlotCanvasClass, "", UINT(kCanvasControl), WS_VISIBLE, {7, 20, 273, 172}},
+        {"Button",
+         "OK",
+         UINT(IDOK),
+         WS_VISIBLE | WS_TABSTOP | BS_DEFPUSHBUTTON,
+         {167, 179, 217, 193}},
+        {"Button",
+         "Cancel",
+         UINT(IDCANCEL),
+         WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON,
+         {223, 179, 273, 193}},
+    };
+    RegisterDialogTemplate(kCanvasDialog, canvasDialog);
     page.dialog.Create(kCanvasDialog, nullptr);
     page.canvas.SubclassDlgItem(kCanvasControl, &page.dialog);
     EPlot* inCanvas = new EPlot(kLineChart, "", kCanvasControl, 0, page.canvas.m_hWnd);

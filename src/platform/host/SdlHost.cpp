@@ -3,7 +3,6 @@
 #include "platform/base/Messages.h"
 #include "platform/base/Rect.h"
 #include "platform/gdi/Surface.h"
-#include "platform/host/OleDropTarget.h"
 #include "platform/host/SdlKeys.h"
 #include "platform/host/SdlMessageBox.h"
 #include "platform/window/Input.h"
@@ -373,17 +372,12 @@ void SdlHost::Deliver(const SDL_Event& event) {
         if (HWND hwnd = FromSdlId(event.window.windowID))
             DeliverWindowEvent(hwnd, event);
         break;
-    case SDL_DROPTEXT: {
-        // Text dragged in from another program: the drop target under the mouse takes it.
-        int x = 0;
-        int y = 0;
-        SDL_GetMouseState(&x, &y);
-        const HWND hwnd = FromSdlId(event.drop.windowID);
-        if (hwnd && event.drop.file)
-            DeliverDroppedText(ToScreen(hwnd, x, y), Latin1FromUtf8(event.drop.file).c_str());
-        SDL_free(event.drop.file);
+    case SDL_DROPTEXT:
+        if (event.drop.file) {
+            InjectDroppedText(Latin1FromUtf8(event.drop.file).c_str());
+            SDL_free(event.drop.file);
+        }
         break;
-    }
     default:
         break;
     }

@@ -4,6 +4,7 @@
 #include "platform/window/Input.h"
 
 #include "platform/host/Host.h"
+#include "platform/host/OleDropTarget.h"
 #include "platform/window/InputState.h"
 #include "platform/window/KeyboardLayout.h"
 #include "platform/window/Menu.h"
@@ -207,6 +208,11 @@ void InjectText(const char* text) {
             InjectChar(UINT(ch));
     }
     TranslatedChar() = -1;
+}
+
+void InjectDroppedText(const char* text) {
+    if (text)
+        DeliverDroppedText(Input().cursorPos, text);
 }
 
 void InjectWindowMoved(HWND window, POINT screenTopLeft) {
