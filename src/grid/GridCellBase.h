@@ -25,6 +25,14 @@ constexpr UINT GV_STATE_FIXEDCOL = 0x0040;
 constexpr UINT GV_STATE_MODIFIED = 0x0080;
 constexpr UINT GV_STATE_DISABLED = 0x0100;
 
+// A cell's rectangle holds its last pixel, as the grid's geometry gives it; filling and
+// invalidating take the rectangle one past it.
+inline CRect ExclusiveCellRect(CRect inclusive) {
+    inclusive.right++;
+    inclusive.bottom++;
+    return inclusive;
+}
+
 class ORVA_API CGridCellBase : public CObject {
     DECLARE_DYNCREATE(CGridCellBase)
 public:

@@ -88,8 +88,7 @@ BOOL CGridCellBase::Draw(CDC* dc, int row, int col, CRect rect, BOOL eraseBackgr
             textColor = ::GetSysColor(COLOR_HIGHLIGHTTEXT);
             eraseBackground = TRUE;
         }
-        rect.right++;
-        rect.bottom++;
+        rect = ExclusiveCellRect(rect);
         if (eraseBackground) {
             dc->FillSolidRect(rect, backColor);
         }
@@ -136,8 +135,7 @@ BOOL CGridCellBase::Draw(CDC* dc, int row, int col, CRect rect, BOOL eraseBackgr
             dc->SelectObject(oldPen);
         } else {
             // The heading of the focus row or column is sunk.
-            rect.right++;
-            rect.bottom++;
+            rect = ExclusiveCellRect(rect);
             dc->DrawEdge(&rect, BDR_SUNKENINNER, BF_RECT);
         }
         rect.DeflateRect(1, 1);

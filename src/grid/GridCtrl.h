@@ -507,6 +507,7 @@ protected:
     void DrawCellInPass(CDC* dc, int row, int col, const CRect& rect, std::vector<CCellID>& blocks);
     void DrawMergedBlock(CDC* dc, const CCellID& topLeft);
     void DrawGridLines(CDC* dc, const CCellRange& visible, const CRect& visibleRect);
+    void DrawGridLine(CDC* dc, bool vertical, int at, int from, int to);
     void ScrollBy(int bar, UINT code);
     void RedrawFocusHeadings(const CCellID& cell, const CCellID& other);
     // Runs a step that allocates. A failed allocation is reported through the memory

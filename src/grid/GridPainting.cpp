@@ -182,6 +182,17 @@ void CGridCtrl::DrawMergedBlock(CDC* dc, const CCellID& topLeft) {
     cell->Draw(dc, topLeft.row, topLeft.col, rect, TRUE);
 }
 
+// The one routine that strokes a grid line, with the grid pen that the caller selected, when
+// the grid's style has lines of that kind: a vertical line at x = `at` or a horizontal one at
+// y = `at`, from `from` to before `to`.
+void CGridCtrl::DrawGridLine(CDC* dc, bool vertical, int at, int from, int to) {
+    if (!(m_gridLines & (vertical ? GVL_VERT : GVL_HORZ))) {
+        return;
+    }
+    dc->MoveTo(vertical ? at : from, vertical ? from : at);
+    dc->LineTo(vertical ? at : to, vertical ? to : at);
+}
+
 // Lines at the last pixel of each non-fixed column and row in view; fixed cells draw their
 // own edges.
 void CGridCtrl::DrawGridLines(CDC* dc, const CCellRange& visible, const CRect& visibleRect) {
@@ -192,26 +203,18 @@ void CGridCtrl::DrawGridLines(CDC* dc, const CCellRange& visible, const CRect& v
     CPen* oldPen = dc->SelectObject(&pen);
     const int fixedWidth = GetFixedColumnWidth();
     const int fixedHeight = GetFixedRowHeight();
-    if (m_gridLines == GVL_VERT || m_gridLines == GVL_BOTH) {
-        WalkLines(
-            visible.minCol, visible.maxCol, fixedWidth,
-            [this](int col) { return GetColumnWidth(col); },
-            [&](int, int, int right) {
-                dc->MoveTo(right, fixedHeight);
-                dc->LineTo(right, visibleRect.bottom);
-                return true;
-            });
-    }
-    if (m_gridLines == GVL_HORZ || m_gridLines == GVL_BOTH) {
-        WalkLines(
-            visible.minRow, visible.maxRow, fixedHeight,
-            [this](int row) { return GetRowHeight(row); },
-            [&](int, int, int bottom) {
-                dc->MoveTo(fixedWidth, bottom);
-                dc->LineTo(visibleRect.right, bottom);
-                return true;
-            });
-    }
+    WalkLines(
+        visible.minCol, visible.maxCol, fixedWidth, [this](int col) { return GetColumnWidth(col); },
+        [&](int, int, int right) {
+            DrawGridLine(dc, true, right, fixedHeight, visibleRect.bottom);
+            return true;
+        });
+    WalkLines(
+        visible.minRow, visible.maxRow, fixedHeight, [this](int row) { return GetRowHeight(row); },
+        [&](int, int, int bottom) {
+            DrawGridLine(dc, false, bottom, fixedWidth, visibleRect.right);
+            return true;
+        });
     dc->SelectObject(oldPen);
 }
 
@@ -233,14 +236,8 @@ BOOL CGridCtrl::RedrawCell(int row, int col, CDC* dc) {
         if (!IsCellFixed(row, col) && m_gridLines != GVL_NONE) {
             CPen pen(PS_SOLID, 0, m_gridLineColor);
             CPen* oldPen = drawing->SelectObject(&pen);
-            if (m_gridLines == GVL_HORZ || m_gridLines == GVL_BOTH) {
-                drawing->MoveTo(rect.left, rect.bottom);
-                drawing->LineTo(rect.right + 1, rect.bottom);
-            }
-            if (m_gridLines == GVL_VERT || m_gridLines == GVL_BOTH) {
-                drawing->MoveTo(rect.right, rect.top);
-                drawing->LineTo(rect.right, rect.bottom + 1);
-            }
+            DrawGridLine(drawing, false, rect.bottom, rect.left, rect.right + 1);
+            DrawGridLine(drawing, true, rect.right, rect.top, rect.bottom + 1);
             drawing->SelectObject(oldPen);
         }
     }
@@ -286,8 +283,7 @@ BOOL CGridCtrl::InvalidateCellRect(int row, int col) {
         !IsCellVisible(row, col) || !GetCellRect(row, col, &rect)) {
         return FALSE;
     }
-    rect.right++;
-    rect.bottom++;
+    rect = ExclusiveCellRect(rect);
     InvalidateRect(&rect, TRUE);
     return TRUE;
 }
@@ -304,8 +300,7 @@ BOOL CGridCtrl::InvalidateCellRect(const CCellRange& cellRange) {
     if (!shown.IsValid() || !GetCellRangeRect(shown, &rect)) {
         return FALSE;
     }
-    rect.right++;
-    rect.bottom++;
+    rect = ExclusiveCellRect(rect);
     InvalidateRect(&rect, TRUE);
     return TRUE;
 }
