@@ -371,12 +371,17 @@ void SdlHost::Deliver(const SDL_Event& event) {
         if (HWND hwnd = FromSdlId(event.window.windowID))
             DeliverWindowEvent(hwnd, event);
         break;
-    case SDL_DROPTEXT:
-        if (event.drop.file) {
-            InjectDroppedText(Latin1FromUtf8(event.drop.file).c_str());
-            SDL_free(event.drop.file);
-        }
+    case SDL_DROPTEXT: {
+        // No motion arrives while another program drags over us: the display's own mouse
+        // state says where the text came down.
+        int x = 0;
+        int y = 0;
+        SDL_GetMouseState(&x, &y);
+        if (const HWND hwnd = FromSdlId(event.drop.windowID); hwnd && event.drop.file)
+            InjectDroppedText(ToScreen(hwnd, x, y), Latin1FromUtf8(event.drop.file).c_str());
+        SDL_free(event.drop.file);
         break;
+    }
     default:
         break;
     }

@@ -210,9 +210,9 @@ void InjectText(const char* text) {
     TranslatedChar() = -1;
 }
 
-void InjectDroppedText(const char* text) {
+void InjectDroppedText(POINT screen, const char* text) {
     if (text)
-        DeliverDroppedText(Input().cursorPos, text);
+        DeliverDroppedText(screen, text);
 }
 
 void InjectWindowMoved(HWND window, POINT screenTopLeft) {

@@ -32,9 +32,9 @@ ORVA_API void InjectActivation(HWND window, bool active);
 // Text a display typed (Latin-1): WM_CHAR for each character, except the one character that
 // TranslateMessage already makes of the key just pressed.
 ORVA_API void InjectText(const char* text);
-// Text another program dropped on a display, where the cursor is: the drop target registered
-// under the cursor takes it as a copy.
-ORVA_API void InjectDroppedText(const char* text);
+// Text another program dropped on a display at a screen point: the drop target registered
+// under the point takes it as a copy.
+ORVA_API void InjectDroppedText(POINT screen, const char* text);
 // Changes a key's state without a message, as if it had been held before the test began.
 ORVA_API void SetKeyHeld(UINT virtualKey, bool down);
 // The clock time at which the next timer comes due, if any timer is set.
