@@ -48,6 +48,10 @@
 #include "grid/GridItem.h"
 #include "grid/GridNotify.h"
 
+// Typed cells.
+#include "cells/GridCellFltCtrl.h"
+#include "cells/GridCellIntCtrl.h"
+
 // Controls.
 #include "controls/DialogORVA.h"
 
