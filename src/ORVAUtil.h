@@ -49,8 +49,12 @@
 #include "grid/GridNotify.h"
 
 // Typed cells.
+#include "cells/GridCellButton.h"
+#include "cells/GridCellCheckbox.h"
 #include "cells/GridCellFltCtrl.h"
 #include "cells/GridCellIntCtrl.h"
+#include "cells/GridColorCell.h"
+#include "cells/InPlaceButton.h"
 
 // Controls.
 #include "controls/DialogORVA.h"

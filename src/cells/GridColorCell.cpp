@@ -1,0 +1,3 @@
+#include "cells/GridColorCell.h"
+
+IMPLEMENT_DYNCREATE(CGridColorCell, CGridCell)
