@@ -49,6 +49,7 @@
 #include "grid/GridNotify.h"
 
 // Typed cells.
+#include "cells/ColorChooserDlg.h"
 #include "cells/GridCellButton.h"
 #include "cells/GridCellCheckbox.h"
 #include "cells/GridCellFltCtrl.h"
