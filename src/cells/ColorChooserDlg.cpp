@@ -20,13 +20,14 @@ constexpr int kSwatchTop = 7;
 constexpr int kSwatchSize = 14;
 constexpr int kSwatchGap = 3;
 constexpr int kFieldsTop = 44;
-constexpr int kPreviewLeft = 130;
+constexpr int kPreviewLeft = 84;
+constexpr int kPreviewRight = 136;
 constexpr UINT kLabelId = 0xFFFF; // labels are never addressed
 
 DialogTemplate ChooserTemplate() {
     DialogTemplate t;
     t.caption = "Colour";
-    t.size = {143, 100};
+    t.size = {143, 113};
     auto field = [&](const char* label, UINT id, int top) {
         t.items.push_back({"Static", label, kLabelId, WS_VISIBLE, {7, top + 2, 40, top + 10}});
         t.items.push_back({"Edit",
@@ -39,9 +40,9 @@ DialogTemplate ChooserTemplate() {
     field("&Green:", CColorChooserDlg::IDC_GREEN, kFieldsTop + 15);
     field("&Blue:", CColorChooserDlg::IDC_BLUE, kFieldsTop + 30);
     t.items.push_back(
-        {"Button", "OK", UINT(IDOK), WS_VISIBLE | WS_TABSTOP | BS_DEFPUSHBUTTON, {31, 82, 81, 96}});
+        {"Button", "OK", UINT(IDOK), WS_VISIBLE | WS_TABSTOP | BS_DEFPUSHBUTTON, {31, 94, 81, 108}});
     t.items.push_back(
-        {"Button", "Cancel", UINT(IDCANCEL), WS_VISIBLE | WS_TABSTOP, {86, 82, 136, 96}});
+        {"Button", "Cancel", UINT(IDCANCEL), WS_VISIBLE | WS_TABSTOP, {86, 94, 136, 108}});
     return t;
 }
 
@@ -70,7 +71,7 @@ CRect CColorChooserDlg::SwatchRect(int index) const {
 }
 
 CRect CColorChooserDlg::PreviewRect() const {
-    CRect rect(kPreviewLeft - 50, kFieldsTop, kPreviewLeft + 6, kFieldsTop + 42);
+    CRect rect(kPreviewLeft, kFieldsTop, kPreviewRight, kFieldsTop + 42);
     MapDialogRect(&rect);
     return rect;
 }
