@@ -61,8 +61,16 @@ TEST_F(ButtonCellTest, AClickOnTheBoxTogglesItAndTellsTheOwnerOnceEachTime) {
     EXPECT_EQ(told.row, kRow);
     EXPECT_EQ(told.column, kCheckColumn);
 
+    // The owner finds the new state already in the cell when it hears of the click.
+    int heardChecked = -1;
+    parent.onNotify = [&](const NMHDR& header) {
+        if (header.code == UINT(GV_NOTIFY_CELLBUTTON)) {
+            heardChecked = Checked(kRow) ? 1 : 0;
+        }
+    };
     ui.Click(Grid(), OnBox(kRow));
     EXPECT_FALSE(Checked(kRow));
+    EXPECT_EQ(heardChecked, 0);
     EXPECT_EQ(Count(GV_NOTIFY_CELLBUTTON), 2);
     // None of this is an edit.
     EXPECT_EQ(Count(GV_NOTIFY_BEGINLABELEDIT), 0);

@@ -1,5 +1,12 @@
 #include "CellGrid.h"
 
+BOOL CCellOwner::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
+    if (onNotify) {
+        onNotify(*reinterpret_cast<const NMHDR*>(lParam));
+    }
+    return CWnd::OnNotify(wParam, lParam, result);
+}
+
 CellGrid::CellGrid() {
     parent.CreateEx(0, AfxRegisterWndClass(0), "cells", WS_OVERLAPPEDWINDOW, CRect(0, 0, 640, 400),
                     nullptr, 0);

@@ -10,7 +10,17 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
+
+// The grid's owner, as an application: it may act inside each notification it hears.
+class CCellOwner : public CWnd {
+public:
+    std::function<void(const NMHDR& header)> onNotify;
+
+protected:
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+};
 
 class CellGrid : public ::testing::Test {
 protected:
@@ -31,7 +41,7 @@ protected:
     HWND Grid() const { return grid.GetSafeHwnd(); }
     int Count(int code) const { return recorder->Count(UINT(code)); }
 
-    CWnd parent;
+    CCellOwner parent;
     CGridCtrl grid;
     UiDriver ui;
     std::unique_ptr<NotificationRecorder> recorder;

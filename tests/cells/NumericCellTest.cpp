@@ -7,6 +7,8 @@
 #include "cells/GridCellIntCtrl.h"
 #include "grid/GridNotify.h"
 
+#include <vector>
+
 namespace {
 
 constexpr int kIntColumn = 1;
@@ -66,6 +68,20 @@ TEST_F(NumericCellTest, TypedFloatsComeOutInTheCellsFormatAndUnreadableTextEmpti
         EXPECT_EQ(grid.GetItemText(kRow, kFloatColumn), c.shown) << c.typed;
         EXPECT_EQ(Count(GV_NOTIFY_ENDLABELEDIT), 1) << c.typed;
     }
+}
+
+TEST_F(NumericCellTest, TheApplicationReadsTheNormalisedValueWhileItIsAskedAboutTheEdit) {
+    std::vector<double> heard;
+    parent.onNotify = [&](const NMHDR& header) {
+        if (header.code == UINT(GV_NOTIFY_ENDLABELEDIT)) {
+            const LPARAM value = grid.GetCell(kRow, kFloatColumn)->GetData();
+            heard.push_back(value != 0 ? *reinterpret_cast<const double*>(value) : -1.0);
+        }
+    };
+    Prepare(kFloatColumn, "1.0");
+    TypeInto(kRow, kFloatColumn, "2.5kg");
+    TypeInto(kRow, kFloatColumn, "none");
+    EXPECT_EQ(heard, (std::vector<double>{2.5, -1.0}));
 }
 
 TEST_F(NumericCellTest, TheApplicationTellsAnEmptyCellFromZeroAndReadsOneSharedValue) {
