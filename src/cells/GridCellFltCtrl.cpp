@@ -12,6 +12,15 @@ namespace {
 constexpr int kDoubleWidth = 15;
 constexpr int kSingleWidth = 8;
 
+// The cell being assigned to and the source's data, which the copy's own SetData passes by;
+// the SetData within SetText carries an address of its own and goes through. Single-threaded,
+// as every cell.
+struct Assignment {
+    const CGridCellFltCtrl* cell = nullptr;
+    LPARAM sourceData = 0;
+};
+Assignment assigning;
+
 } // namespace
 
 CGridCellFltCtrl& CGridCellFltCtrl::operator=(const CGridCellFltCtrl& source) {
@@ -20,13 +29,18 @@ CGridCellFltCtrl& CGridCellFltCtrl::operator=(const CGridCellFltCtrl& source) {
 }
 
 CGridCellBase& CGridCellFltCtrl::operator=(const CGridCellBase& source) {
-    CGridCell::operator=(source);
+    // The settings come first, so that the copied text takes the source's form. A plain
+    // cell's data is a value and another typed cell's an address of its own type: either
+    // would be read here as the address of a double. The copied text carries the value.
     if (source.IsKindOf(RUNTIME_CLASS(CGridCellFltCtrl))) {
         const auto& other = static_cast<const CGridCellFltCtrl&>(source);
         m_nPrecision = other.m_nPrecision;
         m_nMaxDecimals = other.m_nMaxDecimals;
         m_bSinglePrecision = other.m_bSinglePrecision;
     }
+    assigning = {this, source.GetData()};
+    CGridCell::operator=(source);
+    assigning = {};
     return *this;
 }
 
@@ -47,6 +61,9 @@ void CGridCellFltCtrl::SetText(LPCTSTR text) {
 }
 
 void CGridCellFltCtrl::SetData(LPARAM data) {
+    if (this == assigning.cell && data == assigning.sourceData) {
+        return;
+    }
     if (data == 0) {
         m_text = "";
         return;

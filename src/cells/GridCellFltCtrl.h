@@ -12,7 +12,9 @@ class ORVA_API CGridCellFltCtrl : public CGridCell {
 public:
     CGridCellFltCtrl() = default;
     CGridCellFltCtrl& operator=(const CGridCellFltCtrl& source);
-    // Copies the cell part, and the format settings when the source is a float cell too.
+    // Copies the format settings when the source is a float cell too, and the cell part by its
+    // text: the source's data, a value or an address of another type, is never read as the
+    // address of a double or float.
     CGridCellBase& operator=(const CGridCellBase& source) override;
 
     // Text that reads as no number empties the cell.

@@ -4,6 +4,22 @@
 
 IMPLEMENT_DYNCREATE(CGridCellIntCtrl, CGridCell)
 
+namespace {
+
+// The cell being assigned to, whose SetData the copy passes by. Single-threaded, as every cell.
+const CGridCellIntCtrl* assigning = nullptr;
+
+} // namespace
+
+CGridCellBase& CGridCellIntCtrl::operator=(const CGridCellBase& source) {
+    // A plain cell's data is a value and another typed cell's an address of its own type:
+    // either would be read here as the address of an int. The copied text carries the value.
+    assigning = this;
+    CGridCell::operator=(source);
+    assigning = nullptr;
+    return *this;
+}
+
 void CGridCellIntCtrl::SetText(LPCTSTR text) {
     CString trimmed(text != nullptr ? text : "");
     trimmed.TrimLeft();
@@ -33,6 +49,9 @@ void CGridCellIntCtrl::SetText(LPCTSTR text) {
 }
 
 void CGridCellIntCtrl::SetData(LPARAM data) {
+    if (this == assigning) {
+        return;
+    }
     if (data == 0) {
         SetText("");
         return;

@@ -9,7 +9,10 @@
 class ORVA_API CGridCellIntCtrl : public CGridCell {
     DECLARE_DYNCREATE(CGridCellIntCtrl)
 public:
-    using CGridCell::operator=;
+    CGridCellIntCtrl() = default;
+    // Copies the cell part by its text: the source's data, a value or an address of another
+    // type, is never read as the address of an int.
+    CGridCellBase& operator=(const CGridCellBase& source) override;
 
     // Out-of-range numbers clamp; text that reads as no integer leaves the cell as it was.
     void SetText(LPCTSTR text) override;

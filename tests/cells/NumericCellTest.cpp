@@ -116,6 +116,32 @@ TEST_F(NumericCellTest, TheApplicationTellsAnEmptyCellFromZeroAndReadsOneSharedV
     EXPECT_EQ(*reinterpret_cast<const double*>(number->GetData()), value);
 }
 
+TEST_F(NumericCellTest, AColumnChangedToANumericTypeKeepsItsNumbersWhateverTheOldCellsHeld) {
+    constexpr int kPlainColumn = 4;
+    constexpr LPARAM kApplicationValue = 5; // a plain cell's data is a value, not an address
+    grid.SetItemText(kRow, kPlainColumn, "2.75");
+    grid.SetItemData(kRow, kPlainColumn, kApplicationValue);
+    grid.SetItemText(kRow, kIntColumn, "12");
+    auto* single = static_cast<CGridCellFltCtrl*>(grid.GetCell(kRow, kFloatColumn));
+    single->SetPrecision(-1, true, -1);
+    single->SetText("0.5");
+
+    ASSERT_TRUE(grid.SetCellType(kRow, kPlainColumn, RUNTIME_CLASS(CGridCellFltCtrl)));
+    EXPECT_EQ(grid.GetItemText(kRow, kPlainColumn), "2.75");
+    ASSERT_TRUE(grid.SetCellType(kRow, kIntColumn, RUNTIME_CLASS(CGridCellFltCtrl)));
+    EXPECT_EQ(grid.GetItemText(kRow, kIntColumn), "12.0");
+    ASSERT_TRUE(grid.SetCellType(kRow, kPlainColumn, RUNTIME_CLASS(CGridCellIntCtrl)));
+    EXPECT_EQ(grid.GetItemText(kRow, kPlainColumn), "2");
+
+    // A float cell copied into a float cell takes its precision: the single value travels as
+    // a float.
+    CGridCellFltCtrl copy;
+    copy = *single;
+    EXPECT_STREQ(copy.GetText(), "0.5");
+    ASSERT_NE(copy.GetData(), 0);
+    EXPECT_EQ(*reinterpret_cast<const float*>(copy.GetData()), 0.5f);
+}
+
 TEST_F(NumericCellTest, PrecisionShapesTheNextTextOnly) {
     auto* number = static_cast<CGridCellFltCtrl*>(grid.GetCell(kRow, kFloatColumn));
     const double pi = 3.14159;
