@@ -62,6 +62,15 @@
 #include "grid/GridItem.h"
 #include "grid/GridNotify.h"
 
+// Typed cells.
+#include "cells/ColorChooserDlg.h"
+#include "cells/GridCellButton.h"
+#include "cells/GridCellCheckbox.h"
+#include "cells/GridCellFltCtrl.h"
+#include "cells/GridCellIntCtrl.h"
+#include "cells/GridColorCell.h"
+#include "cells/InPlaceButton.h"
+
 // Controls.
 #include "controls/DialogORVA.h"
 #include "controls/EditORVA.h"
