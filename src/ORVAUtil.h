@@ -53,7 +53,6 @@
 #include "chart/ChartApi.h"
 
 // Grid.
-#include "cells/InPlaceEdit.h"
 #include "grid/CellRange.h"
 #include "grid/GridCell.h"
 #include "grid/GridCellBase.h"
@@ -62,7 +61,7 @@
 #include "grid/GridItem.h"
 #include "grid/GridNotify.h"
 
-// Typed cells.
+// Cells and their in-place editors.
 #include "cells/ColorChooserDlg.h"
 #include "cells/GridCellButton.h"
 #include "cells/GridCellCheckbox.h"
@@ -70,6 +69,7 @@
 #include "cells/GridCellIntCtrl.h"
 #include "cells/GridColorCell.h"
 #include "cells/InPlaceButton.h"
+#include "cells/InPlaceEdit.h"
 
 // Controls.
 #include "controls/DialogORVA.h"

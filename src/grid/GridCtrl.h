@@ -482,6 +482,9 @@ protected:
     // Sorting: the quicksort on rows `low` to `high` (-1: the last row).
     BOOL SortItems(PFNLVCOMPARE compare, int col, BOOL ascending, LPARAM data, int low, int high);
     void SwapRows(int row1, int row2);
+    // The text sort of rows `low` to `high` over keys gathered once; false when a row has no
+    // cell in the column, and nothing has moved.
+    bool SortRowsByTextKeys(int col, BOOL ascending, int low, int high);
     // The fill handle: the fill of a drag ending over `target`, and the copy down a column.
     void FillByDrag(const CCellID& target);
     void FillDown(const CCellID& source);

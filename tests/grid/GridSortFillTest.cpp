@@ -5,6 +5,7 @@
 
 #include "support/FormatDouble.h"
 
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -72,6 +73,43 @@ TEST_F(GridSortFillTest, NumbersSortAsTextUnlessACompareFunctionSaysOtherwise) {
     EXPECT_FALSE(grid.SortItems(5, TRUE)); // no such column
     EXPECT_EQ(grid.GetFocusCell(), CCellID());
     EXPECT_EQ(grid.GetSelectedCount(), 0);
+}
+
+// The text sort compares with strcmp; a compare function doing the same must give the very
+// same rows, ties included (their order shows in the second column), both ways.
+int CompareAsStrcmp(LPARAM cell1, LPARAM cell2, LPARAM) {
+    return std::strcmp(reinterpret_cast<const CGridCellBase*>(cell1)->GetText(),
+                       reinterpret_cast<const CGridCellBase*>(cell2)->GetText());
+}
+
+TEST(GridTextSort, OrdersRowsAsTheSameQuicksortWithStrcmpDoes) {
+    // Short texts, texts that share their first eight bytes, bytes above 127, empty texts and
+    // many ties.
+    const std::vector<std::string> texts = {
+        "pipe-0042", "pipe-0041", "b",     "",          "pipe-004", "\xE9t\xE9", "b",
+        "pipe-0042", "a",         "pipe-", "\xE9t\xE9", "zz",       "pipe-0042", "",
+        "culvert",   "b",         "a",     "pipe-0041", "culverts", "Z"};
+    for (const BOOL ascending : {TRUE, FALSE}) {
+        CGridCtrl byText(int(texts.size()) + 1, 2, 1, 0);
+        CGridCtrl byFunction(int(texts.size()) + 1, 2, 1, 0);
+        for (size_t i = 0; i < texts.size(); i++) {
+            for (CGridCtrl* grid : {&byText, &byFunction}) {
+                grid->SetItemText(int(i) + 1, 0, texts[i].c_str());
+                grid->SetItemText(int(i) + 1, 1, std::to_string(i).c_str());
+            }
+        }
+        byText.SortTextItems(0, ascending);
+        byFunction.SortItems(CompareAsStrcmp, 0, ascending);
+        for (int row = 1; row <= int(texts.size()); row++) {
+            EXPECT_EQ(byText.GetItemText(row, 0), byFunction.GetItemText(row, 0)) << row;
+            EXPECT_EQ(byText.GetItemText(row, 1), byFunction.GetItemText(row, 1)) << row;
+        }
+        for (int row = 2; row <= int(texts.size()); row++) {
+            const int order =
+                std::strcmp(byText.GetItemText(row - 1, 0), byText.GetItemText(row, 0));
+            EXPECT_TRUE(ascending ? order <= 0 : order >= 0) << row;
+        }
+    }
 }
 
 TEST_F(GridSortFillTest, TheSeriesStepFollowsItsRules) {
