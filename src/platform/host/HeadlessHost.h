@@ -20,6 +20,7 @@ public:
     void MoveWindowSurface(HWND window, const RECT& screenRect) override;
     void DestroyWindowSurface(HWND window) override;
     void ShowWindowSurface(HWND, bool) override {}
+    void RaiseWindowSurface(HWND) override {}
     void SetWindowTitle(HWND, const char*) override {}
     void SetWindowSizeLimits(HWND, SIZE, SIZE) override {}
     void SetWindowIcon(HWND, int, const std::uint32_t*) override {}

@@ -31,6 +31,9 @@ public:
     virtual void MoveWindowSurface(HWND window, const RECT& screenRect) = 0;
     virtual void DestroyWindowSurface(HWND window) = 0;
     virtual void ShowWindowSurface(HWND window, bool show) = 0;
+    // The window went to the top of the z-order: a display shows it above the others, so that
+    // what the user sees and where the window layer sends the mouse agree.
+    virtual void RaiseWindowSurface(HWND window) = 0;
     virtual void SetWindowTitle(HWND window, const char* title) = 0;
     // The window's icon on a display: `size` * `size` ARGB pixels, row by row.
     virtual void SetWindowIcon(HWND window, int size, const std::uint32_t* argb) = 0;

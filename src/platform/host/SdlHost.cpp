@@ -194,6 +194,11 @@ void SdlHost::ShowWindowSurface(HWND window, bool show) {
         SDL_HideWindow(w->window);
 }
 
+void SdlHost::RaiseWindowSurface(HWND window) {
+    if (Window* w = Find(window); w && w->window && w->shown)
+        SDL_RaiseWindow(w->window);
+}
+
 void SdlHost::SetWindowTitle(HWND window, const char* title) {
     if (Window* w = Find(window); w && w->window)
         SDL_SetWindowTitle(w->window, Utf8FromLatin1(title ? title : "").c_str());

@@ -30,6 +30,7 @@ public:
     void MoveWindowSurface(HWND window, const RECT& screenRect) override;
     void DestroyWindowSurface(HWND window) override;
     void ShowWindowSurface(HWND window, bool show) override;
+    void RaiseWindowSurface(HWND window) override;
     void SetWindowTitle(HWND window, const char* title) override;
     void SetWindowSizeLimits(HWND window, SIZE minimum, SIZE maximum) override;
     void SetWindowIcon(HWND window, int size, const std::uint32_t* argb) override;

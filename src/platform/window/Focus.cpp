@@ -114,6 +114,7 @@ HWND SetActiveWindow(HWND hwnd) {
         auto& tops = TopLevelWindows();
         std::erase(tops, hwnd);
         tops.insert(tops.begin(), hwnd);
+        GetHost().RaiseWindowSurface(hwnd);
         Send(n, WM_ACTIVATE, WA_ACTIVE, LPARAM(old));
     }
     return Find(old) ? old : nullptr;

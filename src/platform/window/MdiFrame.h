@@ -92,7 +92,6 @@ public:
     void MDIDestroy();
 
 protected:
-    using CFrameWnd::Create;
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     // A document window owns itself: it deletes its object when its window goes.
     void PostNcDestroy() override;

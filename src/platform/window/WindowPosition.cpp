@@ -19,9 +19,11 @@ void Restack(WindowRecord& w, HWND insertAfter) {
     }
     const auto after = std::find(siblings.begin(), siblings.end(), insertAfter);
     if (insertAfter == HWND_TOP || insertAfter == HWND_TOPMOST || insertAfter == HWND_NOTOPMOST ||
-        after == siblings.end())
+        after == siblings.end()) {
         siblings.insert(siblings.begin(), w.handle);
-    else
+        if (IsTopLevel(w))
+            GetHost().RaiseWindowSurface(w.handle);
+    } else
         siblings.insert(after + 1, w.handle);
 }
 
