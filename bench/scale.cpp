@@ -1,6 +1,7 @@
 // How costs grow with size, fitted by Google Benchmark: a repaint of a virtual grid does not
 // depend on its row count (up to 100,000,000 rows), SetRowCount grows linearly with the rows,
-// and a line chart's render with its points (up to 10,000,000).
+// a sort of a text column as n log n, and a line chart's render with its points (up to
+// 10,000,000).
 
 #include "chart/ChartEngine.h"
 #include "chart/ChartPropertyIds.h"
@@ -11,6 +12,8 @@
 
 #include <cmath>
 #include <memory>
+#include <random>
+#include <string>
 #include <vector>
 
 namespace {
@@ -22,6 +25,7 @@ constexpr int kColWidth = 64;
 constexpr int kCols = 40;
 constexpr int kStoreCols = 20;
 constexpr int kTextRows = 10000;
+constexpr int kWordLength = 8;
 constexpr int kChartWidth = 1200;
 constexpr int kChartHeight = 800;
 
@@ -84,6 +88,40 @@ BENCHMARK(SetRowCountByRows)
     ->Range(1000, 100000)
     ->Unit(benchmark::kMillisecond)
     ->Complexity(benchmark::oN);
+
+// Random words of one length, the same at every run.
+std::vector<std::string> RandomWords(int count) {
+    std::mt19937 random(42);
+    std::uniform_int_distribution<int> letter('a', 'z');
+    std::vector<std::string> words(size_t(count), std::string(kWordLength, ' '));
+    for (std::string& word : words) {
+        for (char& ch : word) {
+            ch = char(letter(random));
+        }
+    }
+    return words;
+}
+
+// Each round sorts the words in the order they were made, under a fixed header row.
+void SortTextByRows(benchmark::State& state) {
+    const int rows = int(state.range(0));
+    const std::vector<std::string> words = RandomWords(rows);
+    CGridCtrl grid(rows + 1, 1, 1, 0);
+    for (auto _ : state) {
+        state.PauseTiming();
+        for (int row = 0; row < rows; row++) {
+            grid.SetItemText(row + 1, 0, words[size_t(row)].c_str());
+        }
+        state.ResumeTiming();
+        grid.SortTextItems(0, TRUE);
+    }
+    state.SetComplexityN(rows);
+}
+BENCHMARK(SortTextByRows)
+    ->RangeMultiplier(4)
+    ->Range(1 << 10, 1 << 16)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oNLogN);
 
 void RenderLineByPoints(benchmark::State& state) {
     const int points = int(state.range(0));

@@ -50,6 +50,7 @@ COUNTERS = [
 COMPLEXITIES = [
     ("Virtual repaint by rows, 1,000 to 100,000,000", "VirtualRepaintByRows", "(1)"),
     ("SetRowCount by rows, 1,000 to 100,000", "SetRowCountByRows", "N"),
+    ("Sort of a text column by rows, 1,024 to 65,536", "SortTextByRows", "NlgN"),
     ("Chart render by points, 10,000 to 10,000,000", "RenderLineByPoints", "N"),
 ]
 COMPLEXITY_RMS_AIM = 0.25

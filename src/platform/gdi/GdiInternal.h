@@ -112,6 +112,10 @@ inline HGDIOBJ Handle(Object* object) {
 }
 Object* StockObject(int index);
 BitmapObject* NewBitmap(int width, int height, int bitsPerPixel);
+// Pixels for a new bitmap, all white, reusing those of a bitmap that died at the same size.
+std::unique_ptr<Surface> NewWhiteSurface(int width, int height);
+// Offers the pixels of a dying bitmap for reuse.
+void RecycleSurface(std::unique_ptr<Surface> pixels);
 
 // What SaveDC keeps and RestoreDC brings back.
 struct DcAttributes {

@@ -80,7 +80,9 @@ COLORREF BrushObject::Color() const {
     return sysColor >= 0 ? GetSysColor(sysColor) : log.lbColor;
 }
 
-BitmapObject::~BitmapObject() = default;
+BitmapObject::~BitmapObject() {
+    RecycleSurface(std::move(pixels));
+}
 
 RegionObject::~RegionObject() {
     if (region != nullptr)
@@ -156,7 +158,7 @@ Object* Lookup(AnyGdiHandle handle) {
 }
 
 BitmapObject* NewBitmap(int width, int height, int bitsPerPixel) {
-    auto pixels = std::make_unique<Surface>(std::max(width, 0), std::max(height, 0));
+    auto pixels = NewWhiteSurface(std::max(width, 0), std::max(height, 0));
     if (pixels->Width() != std::max(width, 0) || pixels->Height() != std::max(height, 0))
         return nullptr; // too large to allocate
     auto* bitmap = new BitmapObject;

@@ -7,16 +7,20 @@
 
 namespace {
 
-cairo_surface_t* NewWhiteSurface(int width, int height) {
-    cairo_surface_t* surface =
-        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, std::max(width, 0), std::max(height, 0));
+void FillWhite(cairo_surface_t* surface) {
     cairo_surface_flush(surface);
     unsigned char* data = cairo_image_surface_get_data(surface);
     if (data != nullptr)
         std::memset(data, 0xFF,
                     std::size_t(cairo_image_surface_get_stride(surface)) *
-                        std::size_t(std::max(height, 0)));
+                        std::size_t(cairo_image_surface_get_height(surface)));
     cairo_surface_mark_dirty(surface);
+}
+
+cairo_surface_t* NewWhiteSurface(int width, int height) {
+    cairo_surface_t* surface =
+        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, std::max(width, 0), std::max(height, 0));
+    FillWhite(surface);
     return surface;
 }
 
@@ -61,6 +65,10 @@ void Surface::Resize(int width, int height) {
     cairo_destroy(cr);
     cairo_surface_destroy(Native(m_surface));
     m_surface = resized;
+}
+
+void Surface::FillWhite() {
+    ::FillWhite(Native(m_surface));
 }
 
 COLORREF Surface::GetPixel(int x, int y) const {

@@ -23,6 +23,7 @@ public:
 
     // Changes the size, keeping what lies in both the old and the new area; the rest is white.
     void Resize(int width, int height);
+    void FillWhite();
     // The colour at a pixel, or CLR_INVALID outside the surface.
     COLORREF GetPixel(int x, int y) const;
     bool SavePng(const char* path) const;

@@ -1,5 +1,6 @@
-// The cache of shaped texts: a list in order of use with an index by key. A miss takes over the
-// layout of the entry used longest ago, so that a full cache allocates nothing.
+// The cache of shaped texts: a list in order of use with an index by key. A miss shapes the text
+// in one scratch layout and keeps its glyphs in the entry used longest ago, so that a full cache
+// allocates little and a first paint touches no more memory than drawing each text afresh.
 
 #include "platform/gdi/TextLayoutCache.h"
 
@@ -11,6 +12,8 @@ TextLayoutCache::~TextLayoutCache() {
     Clear();
     if (m_uncached != nullptr)
         g_object_unref(m_uncached);
+    if (m_scratch != nullptr)
+        g_object_unref(m_scratch);
 }
 
 // Fonts made anew for each paint, and faces mapped to the same installed font, share their
@@ -41,7 +44,8 @@ void TextLayoutCache::MakeKey(const FontObject* font, std::string_view text) {
 void TextLayoutCache::Clear() {
     m_index.clear();
     for (Entry& entry : m_entries)
-        g_object_unref(entry.shaped.layout);
+        if (entry.layout != nullptr)
+            g_object_unref(entry.layout);
     m_entries.clear();
     m_fonts.clear();
 }
@@ -62,9 +66,19 @@ void TextLayoutCache::Configure(PangoLayout* layout, FontObject* font, std::stri
     }
 }
 
-bool GlyphRuns::Take(PangoLayout* layout) {
+GlyphRuns::~GlyphRuns() {
+    Clear();
+}
+
+void GlyphRuns::Clear() {
+    for (const Run& run : m_runs)
+        cairo_scaled_font_destroy(run.font);
     m_runs.clear();
     m_glyphs.clear();
+}
+
+bool GlyphRuns::Take(PangoLayout* layout) {
+    Clear();
     if (pango_layout_get_line_count(layout) != 1 || pango_layout_get_attributes(layout) != nullptr)
         return false;
     PangoLayoutIter* iter = pango_layout_get_iter(layout);
@@ -81,8 +95,8 @@ bool GlyphRuns::Take(PangoLayout* layout) {
         }
         PangoRectangle logical;
         pango_layout_iter_get_run_extents(iter, nullptr, &logical);
-        m_runs.push_back(
-            {font, logical.x, pango_layout_iter_get_baseline(iter), m_glyphs.size(), 0});
+        m_runs.push_back({cairo_scaled_font_reference(font), logical.x,
+                          pango_layout_iter_get_baseline(iter), m_glyphs.size(), 0});
         int position = 0;
         for (int i = 0; i < run->glyphs->num_glyphs && ok; ++i) {
             const PangoGlyphInfo& glyph = run->glyphs->glyphs[i];
@@ -96,10 +110,8 @@ bool GlyphRuns::Take(PangoLayout* layout) {
         m_runs.back().glyphCount = m_glyphs.size() - m_runs.back().firstGlyph;
     } while (ok && pango_layout_iter_next_run(iter));
     pango_layout_iter_free(iter);
-    if (!ok) {
-        m_runs.clear();
-        m_glyphs.clear();
-    }
+    if (!ok)
+        Clear();
     return ok;
 }
 
@@ -141,30 +153,30 @@ ShapedText TextLayoutCache::Shape(FontObject* font, std::string_view text) {
     }
     MakeKey(font, text);
     if (const auto found = m_index.find(m_key); found != m_index.end()) {
-        Entry& entry = *found->second;
         m_entries.splice(m_entries.begin(), m_entries, found->second);
-        // A text seen once is drawn by Pango; its glyphs are taken when it comes back.
-        if (!entry.glyphsTaken) {
-            entry.glyphsTaken = true;
-            entry.shaped.glyphs = entry.runs.Take(entry.shaped.layout) ? &entry.runs : nullptr;
-        }
-        return entry.shaped;
+        return found->second->shaped;
     }
-    PangoLayout* layout = nullptr;
     if (m_entries.size() < kCapacity) {
-        layout = pango_layout_new(pango_layout_get_context(SharedLayout()));
         m_entries.emplace_front();
     } else {
-        // The oldest entry's node and layout serve the new text.
+        // The oldest entry's node and storage serve the new text.
         m_index.erase(m_entries.back().key);
         m_entries.splice(m_entries.begin(), m_entries, std::prev(m_entries.end()));
-        layout = m_entries.front().shaped.layout;
     }
     Entry& entry = m_entries.front();
     entry.key = m_key;
-    Configure(layout, font, text);
-    entry.shaped = {layout, LogicalWidth(layout), nullptr};
-    entry.glyphsTaken = false;
+    if (m_scratch == nullptr)
+        m_scratch = pango_layout_new(pango_layout_get_context(SharedLayout()));
+    Configure(m_scratch, font, text);
+    const int width = LogicalWidth(m_scratch);
+    if (entry.runs.Take(m_scratch)) {
+        entry.shaped = {nullptr, width, &entry.runs};
+    } else {
+        // The entry keeps the layout as it stands, and its own old one (if any) becomes the
+        // scratch layout.
+        std::swap(entry.layout, m_scratch);
+        entry.shaped = {entry.layout, width, nullptr};
+    }
     m_index.emplace(entry.key, m_entries.begin());
     return entry.shaped;
 }

@@ -2,9 +2,9 @@
 
 // Shaped texts kept for drawing them again. Laying out a text (itemising, shaping) costs far more
 // than showing its glyphs, and a window paints the same texts over and over: every repaint, each
-// scroll and each change of selection. The cache keeps the layouts of the texts drawn last, by
-// the font's description and the text, up to a fixed count; the oldest go first. Private to the
-// gdi layer; the user-interface thread alone uses it.
+// scroll and each change of selection. The cache keeps the glyphs of the texts drawn last, by the
+// font's description and the text, up to a fixed count; the oldest go first. Private to the gdi
+// layer; the user-interface thread alone uses it.
 
 #include "platform/gdi/GdiInternal.h"
 
@@ -21,6 +21,11 @@ namespace gdi {
 // goes straight to Cairo.
 class GlyphRuns {
 public:
+    GlyphRuns() = default;
+    ~GlyphRuns();
+    GlyphRuns(const GlyphRuns&) = delete;
+    GlyphRuns& operator=(const GlyphRuns&) = delete;
+
     // False, and no runs, for what only Pango draws: several lines, lines along the text,
     // glyphs missing from every font.
     bool Take(PangoLayout* layout);
@@ -28,8 +33,10 @@ public:
     void Show(cairo_t* cr, double x, double y) const;
 
 private:
+    void Clear();
+
     struct Run {
-        cairo_scaled_font_t* font; // kept alive by the layout's run
+        cairo_scaled_font_t* font; // a reference of our own: the layout may be laid out anew
         int x, baseline;           // Pango units from the layout's origin
         size_t firstGlyph, glyphCount;
     };
@@ -44,7 +51,8 @@ private:
 };
 
 struct ShapedText {
-    PangoLayout* layout;     // left-aligned, unwrapped, with the font's underline and strike-out
+    PangoLayout* layout;     // left-aligned, unwrapped, with the font's underline and strike-out;
+                             // null when the glyphs show the text
     int width;               // of its logical extents, in pixels
     const GlyphRuns* glyphs; // null: show the layout through Pango
 };
@@ -70,7 +78,7 @@ private:
         std::string key; // the font's number, then the text
         ShapedText shaped;
         GlyphRuns runs;
-        bool glyphsTaken = false;
+        PangoLayout* layout = nullptr; // owned; kept for a text its glyphs cannot show
     };
     // What of a font changes the layout: the description Pango shapes with, and the lines
     // drawn with the text.
@@ -89,6 +97,9 @@ private:
     std::vector<FontIdentity> m_fonts; // numbered by their place; keys start with the number
     std::string m_key;                 // built for each lookup; kept to reuse its storage
     PangoLayout* m_uncached = nullptr;
+    // Where new texts are shaped: one layout, warm in the processor's caches, as a program that
+    // draws every text afresh would use; owned.
+    PangoLayout* m_scratch = nullptr;
 };
 
 // The one cache of the process, shared by every device context.
