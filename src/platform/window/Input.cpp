@@ -238,10 +238,12 @@ void InjectCloseRequest(HWND window) {
 
 void InjectActivation(HWND window, bool active) {
     if (active) {
-        // A pop-up menu's or a list's window gets the display's focus without taking the
-        // activation from its owner.
+        // A pop-up menu's or a list's window (a pop-up without a caption) gets the display's
+        // focus without taking the activation from its owner; a dialog, though a pop-up too,
+        // becomes the active window.
         const WindowRecord* w = Find(window);
-        if (w && !(w->style & WS_POPUP) && IsWindowEnabled(window) && GetActiveWindow() != window)
+        const bool barePopup = w && (w->style & WS_POPUP) && (w->style & WS_CAPTION) != WS_CAPTION;
+        if (w && !barePopup && IsWindowEnabled(window) && GetActiveWindow() != window)
             SetActiveWindow(window);
         return;
     }
