@@ -9,8 +9,10 @@ namespace {
 // The combo box's edit child, the only one whose keys go on to the in-place list.
 constexpr int kComboEditId = 1001;
 
-bool IsNavigationKey(UINT key) {
-    return key >= VK_PRIOR && key <= VK_DOWN;
+// The keys that, with Control held, end the edit and carry it on to a neighbouring cell; Home
+// and End stay with the field.
+bool IsExitArrow(UINT key) {
+    return key == VK_PRIOR || key == VK_NEXT || (key >= VK_LEFT && key <= VK_DOWN);
 }
 
 CInPlaceList* InPlaceListOf(CWnd* wnd) {
@@ -35,7 +37,7 @@ BOOL CComboEdit::PreTranslateMessage(MSG* msg) {
 }
 
 void CComboEdit::OnKeyDown(UINT ch, UINT repeat, UINT flags) {
-    if (IsNavigationKey(ch) && ::GetKeyState(VK_CONTROL) < 0 && GetDlgCtrlID() == kComboEditId) {
+    if (IsExitArrow(ch) && ::GetKeyState(VK_CONTROL) < 0 && GetDlgCtrlID() == kComboEditId) {
         if (CInPlaceList* list = InPlaceListOf(GetParent())) {
             list->SendMessage(WM_KEYDOWN, ch, MAKELPARAM(WORD(repeat), WORD(flags)));
             return;

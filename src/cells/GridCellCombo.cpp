@@ -95,10 +95,12 @@ BOOL CGridCellCombo::Draw(CDC* dc, int row, int col, CRect rect, BOOL eraseBackg
 }
 
 BOOL CGridCellCombo::GetTextRect(LPRECT rect) {
-    if (!CGridCell::GetTextRect(rect)) {
+    if (rect == nullptr) {
         return FALSE;
     }
-    rect->right -= ArrowSize(CRect(*rect)).cx;
+    const int arrowWidth = ArrowSize(CRect(*rect)).cx;
+    CGridCell::GetTextRect(rect);
+    rect->right -= arrowWidth;
     return TRUE;
 }
 

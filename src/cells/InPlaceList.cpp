@@ -21,6 +21,11 @@ bool IsNavigationKey(UINT key) {
     return key >= VK_PRIOR && key <= VK_DOWN;
 }
 
+// The keys that can end the edit and carry it on to a neighbouring cell; Home and End cannot.
+bool IsExitArrow(UINT key) {
+    return key == VK_PRIOR || key == VK_NEXT || (key >= VK_LEFT && key <= VK_DOWN);
+}
+
 } // namespace
 
 CInPlaceList::CInPlaceList(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, int nRow,
@@ -128,8 +133,8 @@ void CInPlaceList::OnCloseUp() {
 }
 
 void CInPlaceList::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
-    const bool exitByArrow = IsNavigationKey(nChar) && nChar != VK_END && nChar != VK_HOME &&
-                             (m_bExitOnArrows || ::GetKeyState(VK_CONTROL) < 0);
+    const bool exitByArrow =
+        IsExitArrow(nChar) && (m_bExitOnArrows || ::GetKeyState(VK_CONTROL) < 0);
     if (exitByArrow || nChar == VK_TAB || nChar == VK_RETURN) {
         m_nLastChar = nChar;
         GetParent()->SetFocus(); // ends the edit, and this object with it

@@ -214,6 +214,18 @@ TEST_F(GridCellComboTest, ADropDownTakesATypedWordThatIsNoOptionAndTabMovesOn) {
     // The next cell is a text cell, whose editor Tab opened.
     ui.PressKey(VK_ESCAPE);
     EXPECT_EQ(Editor(), nullptr);
+
+    // Control with an arrow in the field ends the edit and carries it on to the next row.
+    ui.DoubleClick(Grid(), CellCentre(kRow, kFreeColumn));
+    ASSERT_NE(Editor(), nullptr);
+    ui.Type("x");
+    ui.PressKey(VK_DOWN, MK_CONTROL);
+    EXPECT_EQ(grid.GetItemText(kRow, kFreeColumn), CString(kForeign) + "x");
+    EXPECT_EQ(grid.GetFocusCell(), CCellID(kOtherRow, kFreeColumn));
+    ASSERT_NE(Editor(), nullptr);
+    ui.PressKey(VK_ESCAPE);
+    EXPECT_EQ(Editor(), nullptr);
+    EXPECT_EQ(grid.GetItemText(kOtherRow, kFreeColumn), kOptions[0]);
 }
 
 TEST_F(GridCellComboTest, APastedWordThatIsNoOptionIsRefusedByAListOnlyCellAlone) {
