@@ -192,6 +192,16 @@ TEST_F(GridCellComboTest, TheArrowSitsAtTheTopOfATallCellAndOnlyOnAnEditableOne)
     EXPECT_EQ(ui.Pixel(Grid(), CPoint(arrowFaceX, readOnly.top + 3)), window);
 }
 
+TEST_F(GridCellComboTest, AFittedComboColumnHasRoomForTheArrowBesideTheText) {
+    for (int row = 1; row < kRows; row++) {
+        grid.SetItemText(row, kPlainColumn, kOptions[0]);
+    }
+    grid.AutoSizeColumn(kListColumn);
+    grid.AutoSizeColumn(kPlainColumn);
+    EXPECT_EQ(grid.GetColumnWidth(kListColumn),
+              grid.GetColumnWidth(kPlainColumn) + GetSystemMetrics(SM_CXVSCROLL));
+}
+
 TEST_F(GridCellComboTest, ATypedKeyOpensTheListAndLettersThenChooseAnOptionOnly) {
     Focus(kRow, kListColumn);
     ui.Type("a");
