@@ -236,6 +236,20 @@ TEST_F(GridCellComboTest, ADropDownTakesATypedWordThatIsNoOptionAndTabMovesOn) {
     ui.PressKey(VK_ESCAPE);
     EXPECT_EQ(Editor(), nullptr);
     EXPECT_EQ(grid.GetItemText(kOtherRow, kFreeColumn), kOptions[0]);
+
+    // A pick in a drop-down's list leaves the field open for typing on.
+    ui.Click(Grid(), OnArrow(kOtherRow, kFreeColumn));
+    ASSERT_NE(Editor(), nullptr);
+    const HWND list = PopUpList();
+    ui.MouseMove(list, PopUpRow(kArch));
+    ui.Click(list, PopUpRow(kArch));
+    ASSERT_NE(Editor(), nullptr);
+    EXPECT_FALSE(Editor()->GetDroppedState());
+    ui.PressKey(VK_END); // the picked text is selected, as after any pick
+    ui.Type("es");
+    ui.PressKey(VK_RETURN);
+    EXPECT_EQ(Editor(), nullptr);
+    EXPECT_EQ(grid.GetItemText(kOtherRow, kFreeColumn), CString(kOptions[kArch]) + "es");
 }
 
 TEST_F(GridCellComboTest, APastedWordThatIsNoOptionIsRefusedByAListOnlyCellAlone) {
