@@ -63,13 +63,16 @@
 
 // Cells and their in-place editors.
 #include "cells/ColorChooserDlg.h"
+#include "cells/ComboEdit.h"
 #include "cells/GridCellButton.h"
 #include "cells/GridCellCheckbox.h"
+#include "cells/GridCellCombo.h"
 #include "cells/GridCellFltCtrl.h"
 #include "cells/GridCellIntCtrl.h"
 #include "cells/GridColorCell.h"
 #include "cells/InPlaceButton.h"
 #include "cells/InPlaceEdit.h"
+#include "cells/InPlaceList.h"
 
 // Controls.
 #include "controls/DialogORVA.h"
