@@ -67,9 +67,11 @@
 #include "cells/GridCellCheckbox.h"
 #include "cells/GridCellFltCtrl.h"
 #include "cells/GridCellIntCtrl.h"
+#include "cells/GridCellTimeCtrl.h"
 #include "cells/GridColorCell.h"
 #include "cells/InPlaceButton.h"
 #include "cells/InPlaceEdit.h"
+#include "cells/InPlaceTimeCtrl.h"
 
 // Controls.
 #include "controls/DialogORVA.h"
