@@ -19,6 +19,9 @@ namespace {
 constexpr double kOneSecond = 1.0 / (24.0 * 60.0 * 60.0);
 constexpr double kOneMinute = 60.0 * kOneSecond;
 constexpr int kMaxDecimals = 12;
+// What the shortest text of a float and of a double may lose, relative to the value.
+constexpr double kSingleRelative = 1e-6;
+constexpr double kDoubleRelative = 1e-13;
 
 struct Region {
     const char* shortDate;
@@ -74,6 +77,14 @@ void CheckIntCell(const CGridCellIntCtrl& cell) {
     Check(again == text);
 }
 
+double FltValue(const CGridCellFltCtrl& cell, bool single) {
+    return single ? double(*reinterpret_cast<const float*>(cell.GetData()))
+                  : *reinterpret_cast<const double*>(cell.GetData());
+}
+
+// A float cell's text reads back as nearly its value, and settles after one more round: a
+// value near a power of ten may change its form once, as "100000.0" becomes "1.0e+005" in a
+// narrow single-precision cell, but never drifts.
 void CheckFltCell(const CGridCellFltCtrl& cell, int precision, bool single, int maxDecimals) {
     const CString text = cell.GetText();
     if (text.IsEmpty()) {
@@ -81,10 +92,21 @@ void CheckFltCell(const CGridCellFltCtrl& cell, int precision, bool single, int 
         return;
     }
     Check(cell.GetData() != 0);
+    const double value = FltValue(cell, single);
     CGridCellFltCtrl copy;
     copy.SetPrecision(precision, single, maxDecimals);
     copy.SetText(text);
-    Check(CString(copy.GetText()) == text);
+    Check(copy.GetData() != 0);
+    if (std::isfinite(value)) {
+        const int decimals = maxDecimals >= 0 ? maxDecimals : precision;
+        const double rounding = decimals >= 0 ? std::pow(10.0, -decimals) : 0.0;
+        const double tolerance = std::fabs(value) * (single ? kSingleRelative : kDoubleRelative);
+        Check(std::fabs(FltValue(copy, single) - value) <= rounding + tolerance);
+    }
+    CGridCellFltCtrl again;
+    again.SetPrecision(precision, single, maxDecimals);
+    again.SetText(copy.GetText());
+    Check(CString(again.GetText()) == copy.GetText());
 }
 
 } // namespace
