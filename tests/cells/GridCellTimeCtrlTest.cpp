@@ -193,6 +193,27 @@ TEST_F(TimeCellTest, DigitsAndArrowsEditTheFieldsInTheOrderOfTheRegionalDate) {
     EXPECT_EQ(Cell().GetEditWnd(), nullptr);
 }
 
+TEST_F(TimeCellTest, EscapeKeepsTheEditAndControlDownCarriesItToTheCellBelow) {
+    DoubleClickLeftEdge();
+    const HWND first = Editor()->GetSafeHwnd();
+    ui.PressKey(VK_UP); // April
+    ui.PressKey(VK_ESCAPE);
+    ASSERT_TRUE(::IsWindow(first));
+    EXPECT_EQ(Count(GV_NOTIFY_ENDLABELEDIT), 0);
+
+    ui.PressKey(VK_DOWN, MK_CONTROL);
+    EXPECT_FALSE(::IsWindow(first));
+    EXPECT_EQ(Text(), "4/7/2024 2:05:09 PM");
+    EXPECT_EQ(grid.GetFocusCell(), CCellID(kRow + 1, kTimeColumn));
+    // The cell below had no date: its picker opened on the present.
+    ASSERT_NE(Editor(kRow + 1), nullptr);
+    EXPECT_EQ(::GetFocus(), Editor(kRow + 1)->GetSafeHwnd());
+    EXPECT_NE(Value(kRow + 1), nullptr);
+    ui.PressKey(VK_TAB);
+    EXPECT_EQ(Editor(kRow + 1), nullptr);
+    EXPECT_EQ(Text(kRow + 1), FormatDateTime(Value(kRow + 1), kFormatDate | kFormatTime));
+}
+
 TEST_F(TimeCellTest, TheValueChangesBeforeTheApplicationHearsAndARefusalRestoresBoth) {
     int dayWhileAsked = 0;
     CString textWhileAsked;
