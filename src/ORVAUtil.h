@@ -69,10 +69,12 @@
 #include "cells/GridCellCombo.h"
 #include "cells/GridCellFltCtrl.h"
 #include "cells/GridCellIntCtrl.h"
+#include "cells/GridCellTimeCtrl.h"
 #include "cells/GridColorCell.h"
 #include "cells/InPlaceButton.h"
 #include "cells/InPlaceEdit.h"
 #include "cells/InPlaceList.h"
+#include "cells/InPlaceTimeCtrl.h"
 
 // Controls.
 #include "controls/DialogORVA.h"
