@@ -12,6 +12,8 @@ namespace {
 
 constexpr int kDefaultEvents = 1500;
 constexpr unsigned kSeed = 20261123;
+// More than the farthest a storm point strays past the grid's edges.
+constexpr int kMargin = 40;
 
 int StormEvents() {
     const char* wanted = std::getenv("ORVA_STORM_EVENTS");
@@ -32,6 +34,9 @@ protected:
             parent.display = [](GV_ITEM& item) { item.text.Format("%d:%d", item.row, item.col); };
         }
         Open(30, 12, 320, 200);
+        // Away from the host window's frame, so that points past the grid's edges land in the
+        // host's client area and never on its caption or close box.
+        grid.SetWindowPos(nullptr, kMargin, kMargin, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
         if (shape != Shape::Virtual) {
             for (int row = 1; row < 30; row++) {
                 for (int col = 1; col < 12; col++) {
@@ -130,6 +135,8 @@ protected:
     }
 
     void ExpectInvariants(int event) {
+        ASSERT_TRUE(::IsWindow(Grid())) << "event " << event << " last " << last;
+        ASSERT_FALSE(Client().IsRectEmpty()) << "event " << event << " last " << last;
         const CCellID focus = grid.GetFocusCell();
         ASSERT_TRUE(focus == CCellID() || grid.IsValid(focus)) << "event " << event;
         if (!grid.GetVirtualMode()) {
