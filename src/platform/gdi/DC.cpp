@@ -357,9 +357,17 @@ BOOL CDC::RestoreDC(int savedDC) {
     int level = savedDC < 0 ? count + savedDC + 1 : savedDC;
     if (savedDC == 0 || level < 1 || level > count)
         return FALSE;
+    // Most saves wrap drawing that leaves the clip alone: keeping Cairo's clip then spares
+    // building it again for the next drawing.
+    const cairo_region_t* current = dc->attributes.clip;
+    const cairo_region_t* restored = dc->saved[std::size_t(level - 1)].clip;
+    const bool sameClip = current == nullptr || restored == nullptr
+                              ? current == restored
+                              : cairo_region_equal(current, restored) != 0;
     dc->attributes = dc->saved[std::size_t(level - 1)];
     dc->saved.resize(std::size_t(level - 1));
-    dc->ClipChanged();
+    if (!sameClip)
+        dc->ClipChanged();
     return TRUE;
 }
 
