@@ -90,8 +90,8 @@ void TextLayoutCache::Erase(std::uint32_t hash, std::uint32_t entry) {
 
 void TextLayoutCache::Unlink(std::uint32_t entry) {
     Entry& e = m_entries[entry];
-    (e.newer != kNone ? m_entries[e.newer].older : m_oldest) = e.older;
-    (e.older != kNone ? m_entries[e.older].newer : m_newest) = e.newer;
+    (e.newer != kNone ? m_entries[e.newer].older : m_newest) = e.older;
+    (e.older != kNone ? m_entries[e.older].newer : m_oldest) = e.newer;
 }
 
 void TextLayoutCache::MakeNewest(std::uint32_t entry) {
