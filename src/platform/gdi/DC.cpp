@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <climits>
+#include <cstddef>
+#include <cstdint>
 #include <unordered_set>
 
 namespace gdi {
@@ -81,6 +83,8 @@ DcAttributes::~DcAttributes() {
 DcState::~DcState() {
     if (cr != nullptr)
         cairo_destroy(cr);
+    if (crClip != nullptr)
+        cairo_region_destroy(crClip);
     if (temporary)
         temporary->m_hDC = temporary->m_hAttribDC = nullptr;
     if (permanent != nullptr) {
@@ -127,15 +131,16 @@ cairo_t* DcState::Cairo() {
     }
     if (!crClipValid) {
         cairo_reset_clip(cr);
-        cairo_region_t* clip = EffectiveClip();
-        int n = cairo_region_num_rectangles(clip);
+        if (crClip != nullptr)
+            cairo_region_destroy(crClip);
+        crClip = EffectiveClip();
+        int n = cairo_region_num_rectangles(crClip);
         for (int i = 0; i < n; ++i) {
             cairo_rectangle_int_t r;
-            cairo_region_get_rectangle(clip, i, &r);
+            cairo_region_get_rectangle(crClip, i, &r);
             cairo_rectangle(cr, r.x, r.y, r.width, r.height);
         }
         cairo_clip(cr);
-        cairo_region_destroy(clip);
         crClipValid = true;
     }
     return cr;
@@ -352,9 +357,17 @@ BOOL CDC::RestoreDC(int savedDC) {
     int level = savedDC < 0 ? count + savedDC + 1 : savedDC;
     if (savedDC == 0 || level < 1 || level > count)
         return FALSE;
+    // Most saves wrap drawing that leaves the clip alone: keeping Cairo's clip then spares
+    // building it again for the next drawing.
+    const cairo_region_t* current = dc->attributes.clip;
+    const cairo_region_t* restored = dc->saved[std::size_t(level - 1)].clip;
+    const bool sameClip = current == nullptr || restored == nullptr
+                              ? current == restored
+                              : cairo_region_equal(current, restored) != 0;
     dc->attributes = dc->saved[std::size_t(level - 1)];
     dc->saved.resize(std::size_t(level - 1));
-    dc->ClipChanged();
+    if (!sameClip)
+        dc->ClipChanged();
     return TRUE;
 }
 
@@ -742,11 +755,33 @@ void CDC::FillSolidRect(const RECT& rect, COLORREF color) {
     if (dc == nullptr)
         return;
     // An upside-down rectangle is turned the right way, as the framework's opaque fill does.
-    RECT r = dc->ToSurface(Normalized(rect.left, rect.top, rect.right, rect.bottom));
-    cairo_t* cr = dc->Cairo();
-    SetSource(cr, color);
-    cairo_rectangle(cr, r.left, r.top, r.right - r.left, r.bottom - r.top);
-    cairo_fill(cr);
+    const RECT r = dc->ToSurface(Normalized(rect.left, rect.top, rect.right, rect.bottom));
+    dc->Cairo(); // brings the clip up to date
+    Surface* target = dc->target();
+    if (target == nullptr)
+        return;
+    // An opaque colour on whole pixels: the same pixels as Cairo's fill, written directly,
+    // since a grid fills every cell and Cairo's path machinery costs more than the pixels.
+    auto* surface = static_cast<cairo_surface_t*>(target->NativeHandle());
+    cairo_surface_flush(surface);
+    unsigned char* data = cairo_image_surface_get_data(surface);
+    const std::size_t stride = std::size_t(cairo_image_surface_get_stride(surface));
+    const std::uint32_t pixel = ToPixel(color);
+    const int pieces = cairo_region_num_rectangles(dc->crClip);
+    for (int i = 0; i < pieces; ++i) {
+        cairo_rectangle_int_t piece;
+        cairo_region_get_rectangle(dc->crClip, i, &piece);
+        const int left = std::max<int>(r.left, piece.x);
+        const int right = std::min<int>(r.right, piece.x + piece.width);
+        const int top = std::max<int>(r.top, piece.y);
+        const int bottom = std::min<int>(r.bottom, piece.y + piece.height);
+        if (left >= right || top >= bottom)
+            continue;
+        for (int y = top; y < bottom; ++y)
+            std::fill_n(reinterpret_cast<std::uint32_t*>(data + std::size_t(y) * stride) + left,
+                        right - left, pixel);
+        cairo_surface_mark_dirty_rectangle(surface, left, top, right - left, bottom - top);
+    }
 }
 
 void CDC::FillSolidRect(int x, int y, int cx, int cy, COLORREF color) {

@@ -111,9 +111,15 @@ inline HGDIOBJ Handle(Object* object) {
     return reinterpret_cast<HGDIOBJ>(object != nullptr ? object->handle : 0);
 }
 Object* StockObject(int index);
-BitmapObject* NewBitmap(int width, int height, int bitsPerPixel);
-// Pixels for a new bitmap, all white, reusing those of a bitmap that died at the same size.
-std::unique_ptr<Surface> NewWhiteSurface(int width, int height);
+// What a new bitmap's pixels hold. A compatible bitmap's are undefined, as on Windows: reused
+// pixels keep what the last bitmap of that size drew, which spares a pass over megabytes that
+// the drawing covers anyway.
+enum class NewPixels { White, Undefined };
+BitmapObject* NewBitmap(int width, int height, int bitsPerPixel,
+                        NewPixels contents = NewPixels::White);
+// Pixels for a new bitmap, reusing those of a bitmap that died at the same size; fresh pixels
+// are white.
+std::unique_ptr<Surface> NewSurface(int width, int height, NewPixels contents);
 // Offers the pixels of a dying bitmap for reuse.
 void RecycleSurface(std::unique_ptr<Surface> pixels);
 
@@ -153,6 +159,7 @@ struct DcState {
     cairo_t* cr = nullptr;
     void* crTarget = nullptr;
     bool crClipValid = false;
+    cairo_region_t* crClip = nullptr; // the clip applied to `cr`, in surface coordinates; owned
 
     Surface* target() const;
     cairo_t* Cairo(); // recreated when the surface changes

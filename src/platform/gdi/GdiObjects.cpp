@@ -157,8 +157,8 @@ Object* Lookup(AnyGdiHandle handle) {
     return object != nullptr && !object->deleted ? object : nullptr;
 }
 
-BitmapObject* NewBitmap(int width, int height, int bitsPerPixel) {
-    auto pixels = NewWhiteSurface(std::max(width, 0), std::max(height, 0));
+BitmapObject* NewBitmap(int width, int height, int bitsPerPixel, NewPixels contents) {
+    auto pixels = NewSurface(std::max(width, 0), std::max(height, 0), contents);
     if (pixels->Width() != std::max(width, 0) || pixels->Height() != std::max(height, 0))
         return nullptr; // too large to allocate
     auto* bitmap = new BitmapObject;
@@ -445,7 +445,7 @@ HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) {
         return nullptr;
     if (width < 0 || height < 0)
         return nullptr;
-    BitmapObject* bitmap = NewBitmap(width, height, 32);
+    BitmapObject* bitmap = NewBitmap(width, height, 32, NewPixels::Undefined);
     return bitmap != nullptr ? HBITMAP(Handle(bitmap)) : nullptr;
 }
 

@@ -27,10 +27,11 @@ void RecycleSurface(std::unique_ptr<Surface> pixels) {
         Spare() = std::move(pixels);
 }
 
-std::unique_ptr<Surface> NewWhiteSurface(int width, int height) {
+std::unique_ptr<Surface> NewSurface(int width, int height, NewPixels contents) {
     std::unique_ptr<Surface>& spare = Spare();
     if (spare != nullptr && spare->Width() == width && spare->Height() == height) {
-        spare->FillWhite();
+        if (contents == NewPixels::White)
+            spare->FillWhite();
         return std::move(spare);
     }
     return std::make_unique<Surface>(width, height);

@@ -1,10 +1,13 @@
-// The cache of shaped texts: a list in order of use with an index by key. A miss shapes the text
-// in one scratch layout and keeps its glyphs in the entry used longest ago, so that a full cache
-// allocates little and a first paint touches no more memory than drawing each text afresh.
+// The cache of shaped texts: a fixed array of entries chained in order of use, with a flat
+// open-addressing index by key. A miss shapes the text in one scratch layout and keeps its glyphs
+// in the entry used longest ago, so that a full cache allocates little and a first paint touches
+// no more memory than drawing each text afresh.
 
 #include "platform/gdi/TextLayoutCache.h"
 
+#include <algorithm>
 #include <cstring>
+#include <functional>
 
 namespace gdi {
 
@@ -42,12 +45,61 @@ void TextLayoutCache::MakeKey(const FontObject* font, std::string_view text) {
 }
 
 void TextLayoutCache::Clear() {
-    m_index.clear();
-    for (Entry& entry : m_entries)
-        if (entry.layout != nullptr)
-            g_object_unref(entry.layout);
-    m_entries.clear();
+    for (std::uint32_t i = 0; i < m_used; ++i)
+        if (m_entries[i].layout != nullptr)
+            g_object_unref(m_entries[i].layout);
+    m_entries.reset();
+    m_slots.reset();
+    m_used = 0;
+    m_newest = m_oldest = kNone;
     m_fonts.clear();
+}
+
+std::uint32_t TextLayoutCache::Find(std::uint32_t hash) const {
+    for (size_t place = hash & (kSlots - 1);; place = (place + 1) & (kSlots - 1)) {
+        const Slot& slot = m_slots[place];
+        if (slot.entry == kNone || (slot.hash == hash && m_entries[slot.entry].key == m_key))
+            return slot.entry;
+    }
+}
+
+void TextLayoutCache::Insert(std::uint32_t hash, std::uint32_t entry) {
+    size_t place = hash & (kSlots - 1);
+    while (m_slots[place].entry != kNone)
+        place = (place + 1) & (kSlots - 1);
+    m_slots[place] = {hash, entry};
+}
+
+// Takes the entry's slot out and moves later slots of the same run back into the gap, so that
+// probes never need markers of deleted places.
+void TextLayoutCache::Erase(std::uint32_t hash, std::uint32_t entry) {
+    constexpr size_t kMask = kSlots - 1;
+    size_t gap = hash & kMask;
+    while (m_slots[gap].entry != entry)
+        gap = (gap + 1) & kMask;
+    for (size_t next = (gap + 1) & kMask; m_slots[next].entry != kNone; next = (next + 1) & kMask) {
+        // A slot may fill the gap unless its home lies after the gap, up to itself.
+        const size_t home = m_slots[next].hash & kMask;
+        if (((next - home) & kMask) >= ((next - gap) & kMask)) {
+            m_slots[gap] = m_slots[next];
+            gap = next;
+        }
+    }
+    m_slots[gap].entry = kNone;
+}
+
+void TextLayoutCache::Unlink(std::uint32_t entry) {
+    Entry& e = m_entries[entry];
+    (e.newer != kNone ? m_entries[e.newer].older : m_newest) = e.older;
+    (e.older != kNone ? m_entries[e.older].newer : m_oldest) = e.newer;
+}
+
+void TextLayoutCache::MakeNewest(std::uint32_t entry) {
+    Entry& e = m_entries[entry];
+    e.newer = kNone;
+    e.older = m_newest;
+    (m_newest != kNone ? m_entries[m_newest].newer : m_oldest) = entry;
+    m_newest = entry;
 }
 
 void TextLayoutCache::Configure(PangoLayout* layout, FontObject* font, std::string_view text) {
@@ -152,19 +204,32 @@ ShapedText TextLayoutCache::Shape(FontObject* font, std::string_view text) {
         return {m_uncached, LogicalWidth(m_uncached), nullptr};
     }
     MakeKey(font, text);
-    if (const auto found = m_index.find(m_key); found != m_index.end()) {
-        m_entries.splice(m_entries.begin(), m_entries, found->second);
-        return found->second->shaped;
+    if (m_entries == nullptr) {
+        m_entries = std::make_unique<Entry[]>(kCapacity);
+        m_slots = std::make_unique<Slot[]>(kSlots);
+        std::fill_n(m_slots.get(), kSlots, Slot{0, kNone});
     }
-    if (m_entries.size() < kCapacity) {
-        m_entries.emplace_front();
+    const auto hash = std::uint32_t(std::hash<std::string_view>{}(m_key));
+    if (const std::uint32_t found = Find(hash); found != kNone) {
+        if (found != m_newest) {
+            Unlink(found);
+            MakeNewest(found);
+        }
+        return m_entries[found].shaped;
+    }
+    std::uint32_t number = m_used;
+    if (m_used < kCapacity) {
+        ++m_used;
     } else {
-        // The oldest entry's node and storage serve the new text.
-        m_index.erase(m_entries.back().key);
-        m_entries.splice(m_entries.begin(), m_entries, std::prev(m_entries.end()));
+        // The oldest entry's storage serves the new text.
+        number = m_oldest;
+        Erase(m_entries[number].hash, number);
+        Unlink(number);
     }
-    Entry& entry = m_entries.front();
+    MakeNewest(number);
+    Entry& entry = m_entries[number];
     entry.key = m_key;
+    entry.hash = hash;
     if (m_scratch == nullptr)
         m_scratch = pango_layout_new(pango_layout_get_context(SharedLayout()));
     Configure(m_scratch, font, text);
@@ -177,7 +242,7 @@ ShapedText TextLayoutCache::Shape(FontObject* font, std::string_view text) {
         std::swap(entry.layout, m_scratch);
         entry.shaped = {entry.layout, width, nullptr};
     }
-    m_index.emplace(entry.key, m_entries.begin());
+    Insert(hash, number);
     return entry.shaped;
 }
 

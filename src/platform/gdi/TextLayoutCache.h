@@ -9,10 +9,9 @@
 #include "platform/gdi/GdiInternal.h"
 
 #include <cstdint>
-#include <list>
+#include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace gdi {
@@ -71,15 +70,25 @@ public:
     // The shaped `text` in `font`; valid until the next call. Texts longer than kLongestText are
     // laid out in a layout of their own that the next such text reuses.
     ShapedText Shape(FontObject* font, std::string_view text);
-    size_t Size() const { return m_index.size(); }
+    size_t Size() const { return m_used; }
 
 private:
+    static constexpr std::uint32_t kNone = UINT32_MAX;
     struct Entry {
         std::string key; // the font's number, then the text
-        ShapedText shaped;
+        std::uint32_t hash = 0;
+        std::uint32_t newer = kNone, older = kNone; // neighbours in order of use
+        ShapedText shaped{};
         GlyphRuns runs;
         PangoLayout* layout = nullptr; // owned; kept for a text its glyphs cannot show
     };
+    // A place of the index: an entry's number with its key's hash, so that a probe compares
+    // keys only when the hashes agree and a miss reads no entry at all.
+    struct Slot {
+        std::uint32_t hash;
+        std::uint32_t entry; // kNone: empty
+    };
+    static constexpr size_t kSlots = 2 * kCapacity; // a power of two, at most half full
     // What of a font changes the layout: the description Pango shapes with, and the lines
     // drawn with the text.
     struct FontIdentity {
@@ -92,8 +101,17 @@ private:
     std::uint32_t FontNumber(const FontObject* font);
     void Clear();
 
-    std::list<Entry> m_entries; // the most recently used first
-    std::unordered_map<std::string_view, std::list<Entry>::iterator> m_index; // keys in entries
+    std::uint32_t Find(std::uint32_t hash) const; // of m_key
+    void Insert(std::uint32_t hash, std::uint32_t entry);
+    void Erase(std::uint32_t hash, std::uint32_t entry);
+    void Unlink(std::uint32_t entry);
+    void MakeNewest(std::uint32_t entry);
+
+    // Made on first use; entries stay where they are, so that their glyphs can be pointed to.
+    std::unique_ptr<Entry[]> m_entries;
+    std::unique_ptr<Slot[]> m_slots;
+    std::uint32_t m_used = 0;
+    std::uint32_t m_newest = kNone, m_oldest = kNone;
     std::vector<FontIdentity> m_fonts; // numbered by their place; keys start with the number
     std::string m_key;                 // built for each lookup; kept to reuse its storage
     PangoLayout* m_uncached = nullptr;

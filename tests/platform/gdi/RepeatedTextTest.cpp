@@ -1,11 +1,13 @@
 // Text drawn from its kept glyphs looks exactly as Pango draws it, and the same again the second
 // time, whatever its script, font and size. Pango itself draws texts too long to keep: with
-// trailing blanks a left-to-right text becomes one, and its glyphs stay where they were.
+// trailing blanks a left-to-right text becomes one, and its glyphs stay where they were. Texts
+// keep their own extents while many more come than are kept.
 
 #include "DrawingFixture.h"
 
 #include <cstring>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -78,6 +80,28 @@ TEST_F(RepeatedTextTest, TextDrawnAgainHasTheSamePixels) {
             }
         }
     }
+}
+
+// Far more texts than are kept, of widths that differ from their neighbours', measured again in
+// the reverse order and then forwards: each answer is the text's own, whether it was kept or
+// shaped anew after its place went to another text.
+TEST_F(RepeatedTextTest, ExtentsStayTheTextsOwnWhileKeptTextsAreReplaced) {
+    constexpr int kTexts = 20000;
+    auto text = [](int i) {
+        return std::string(std::size_t(i % 11 + 1), 'W') + std::string(std::size_t(i % 7), 'i') +
+               std::to_string(i);
+    };
+    std::vector<CSize> first;
+    first.reserve(kTexts);
+    for (int i = 0; i < kTexts; ++i)
+        first.push_back(dc.GetTextExtent(text(i).c_str()));
+    int wrong = 0;
+    for (int i = kTexts - 1; i >= 0; --i)
+        wrong += dc.GetTextExtent(text(i).c_str()) != first[std::size_t(i)] ? 1 : 0;
+    for (int i = 0; i < kTexts; i += 3)
+        wrong += dc.GetTextExtent(text(i).c_str()) != first[std::size_t(i)] ? 1 : 0;
+    EXPECT_EQ(wrong, 0);
+    EXPECT_NE(first[0], first[1]);
 }
 
 } // namespace
