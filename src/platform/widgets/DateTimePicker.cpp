@@ -148,9 +148,7 @@ DateTimePicker::Layout DateTimePicker::MakeLayout() const {
 
 // Painting.
 
-void DateTimePicker::Paint() {
-    PAINTSTRUCT ps{};
-    CDC& dc = *CDC::FromHandle(BeginPaint(Window(), &ps));
+void DateTimePicker::Paint(CDC& dc) {
     const Layout layout = MakeLayout();
     const bool enabled = IsWindowEnabled(Window());
     const bool focused = GetFocus() == Window();
@@ -199,7 +197,6 @@ void DateTimePicker::Paint() {
         dc.DrawFrameControl(&button, DFC_SCROLL,
                             DFCS_SCROLLCOMBOBOX | inactive | (m_calendar ? DFCS_PUSHED : 0));
     }
-    EndPaint(Window(), &ps);
 }
 
 // Editing the fields.
@@ -570,11 +567,6 @@ LRESULT DateTimePicker::GetRange(SYSTEMTIME* range) const {
 
 LRESULT DateTimePicker::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-    case WM_PAINT:
-        Paint();
-        return 0;
-    case WM_ERASEBKGND:
-        return 1;
     case WM_SIZE:
     case WM_ENABLE:
         InvalidateRect(Window(), nullptr, TRUE);

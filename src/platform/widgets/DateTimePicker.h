@@ -33,7 +33,7 @@ private:
     bool Editable(const PictureToken& token) const;
     std::vector<int> EditableFields(const Layout& layout) const;
 
-    void Paint();
+    void Paint(CDC& dc) override;
     void OnButtonDown(CPoint point);
     void OnKeyDown(UINT key);
     void OnChar(UINT ch);

@@ -116,7 +116,7 @@ private:
         return DayOf(year, month, day);
     }
 
-    void Paint();
+    void Paint(CDC& dc) override;
     UINT HitTest(CPoint point, SYSTEMTIME& day) const;
     void OnButtonDown(CPoint point);
     void OnKey(UINT key);
@@ -260,9 +260,7 @@ void MonthCalendar::OnKey(UINT key) {
 
 // Painting.
 
-void MonthCalendar::Paint() {
-    PAINTSTRUCT ps{};
-    CDC& dc = *CDC::FromHandle(BeginPaint(Window(), &ps));
+void MonthCalendar::Paint(CDC& dc) {
     const CalendarLayout layout = Layout();
     const CalendarNames names = CurrentCalendarNames();
     CRect client;
@@ -338,7 +336,6 @@ void MonthCalendar::Paint() {
                 DT_LEFT | DT_VCENTER | DT_SINGLELINE);
 
     dc.SelectObject(oldFont);
-    EndPaint(Window(), &ps);
 }
 
 // The messages and the window class.
@@ -351,11 +348,6 @@ LRESULT MonthCalendar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         m_popup = cs->style & WS_POPUP;
         return Default(message, wParam, lParam);
     }
-    case WM_PAINT:
-        Paint();
-        return 0;
-    case WM_ERASEBKGND:
-        return 1;
     case WM_SETFONT:
         m_font = HFONT(wParam);
         if (LOWORD(lParam))
