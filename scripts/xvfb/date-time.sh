@@ -8,11 +8,11 @@
 
 set -euo pipefail
 
-shots=${1:?usage: date-time.sh <screenshot folder> [gallery binary]}
+out=${1:?usage: date-time.sh <screenshot folder> [gallery binary]}
 here=$(cd "$(dirname "$0")/../.." && pwd)
 gallery=${2:-$here/build/apps/gallery/gallery}
-display=:98
-mkdir -p "$shots"
+
+source "$(dirname "$0")/common.sh"
 
 # Where things lie, from the top left corner of the dialog window: the first picker's drop-down
 # button, then, on its calendar, the title bar, the arrow to the next month and the Wednesday of
@@ -23,25 +23,13 @@ readonly next_x=348 next_y=78
 readonly day_x=252 day_y=152
 readonly caption_colour='srgb(10,36,106)'
 
-Xvfb "$display" -screen 0 1024x768x24 -nolisten tcp >"$shots/xvfb.log" 2>&1 &
-xvfb_pid=$!
-gallery_pid=
-cleanup() {
-    [[ -n $gallery_pid ]] && kill "$gallery_pid" 2>/dev/null || true
-    kill "$xvfb_pid" 2>/dev/null || true
-}
-trap cleanup EXIT
-export DISPLAY=$display
-for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break; sleep 0.1; done
-
-"$gallery" --window --page 33-date-time --out "$shots/gallery" >"$shots/gallery.log" 2>&1 &
-gallery_pid=$!
+start_display :98 1024x768
+start_gallery --page 33-date-time
 window=$(xdotool search --sync --onlyvisible --name "Dates and times" | head -n1)
 eval "$(xdotool getwindowgeometry --shell "$window")" # sets X and Y
 sleep 1
 
-shot() { import -window root "$shots/$1.png"; }
-pixel() { convert "$shots/$1.png" -format "%[pixel:p{$((X + $2)),$((Y + $3))}]" info:; }
+pixel() { convert "$out/$1.png" -format "%[pixel:p{$((X + $2)),$((Y + $3))}]" info:; }
 # The pointer arrives before the button goes down, as a user's hand does: a press with no
 # motion before it can reach the window before the display knows the pointer is over it.
 click() {
@@ -51,15 +39,6 @@ click() {
     sleep 0.5
 }
 
-failures=0
-expect() { # what, actual, wanted
-    if [[ $2 == "$3" ]]; then
-        echo "ok: $1"
-    else
-        echo "FAILED: $1 (found $2, wanted $3)"
-        failures=$((failures + 1))
-    fi
-}
 
 shot 1-page
 click $button_x $button_y
@@ -76,5 +55,4 @@ else
     expect "the calendar closes once a day is picked" closed closed
 fi
 
-echo "screenshots in $shots"
-exit $((failures > 0))
+finish

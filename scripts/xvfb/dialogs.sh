@@ -10,27 +10,14 @@ set -euo pipefail
 out=${1:?usage: dialogs.sh <screenshot folder> [gallery]}
 here=$(cd "$(dirname "$0")/../.." && pwd)
 gallery=${2:-$here/build/apps/gallery/gallery}
-display=:92
-mkdir -p "$out"
 
-Xvfb "$display" -screen 0 1280x800x24 -nolisten tcp >"$out/xvfb.log" 2>&1 &
-xvfb=$!
-app=
-cleanup() {
-    [[ -n $app ]] && kill "$app" 2>/dev/null || true
-    kill "$xvfb" 2>/dev/null || true
-}
-trap cleanup EXIT
-export DISPLAY=$display
-for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break; sleep 0.1; done
-
-stdbuf -oL "$gallery" --out "$out/gallery" --page 31-dialogs --window >"$out/gallery.log" 2>&1 &
-app=$!
+source "$(dirname "$0")/common.sh"
+start_display :92 1280x800
+start_gallery --page 31-dialogs
 options=$(xdotool search --sync --onlyvisible --name "Plot Options" | head -1)
 axis=$(xdotool search --sync --onlyvisible --name "Axis Titles" | head -1)
 sleep 1
 
-shot() { import -window root "$out/$1.png"; echo "$out/$1.png"; }
 pixel() { convert "$out/$1.png" -format "%[pixel:p{$2,$3}]" info:; }
 # The mean brightness (0 to 1) of a box of a screenshot.
 brightness() { convert "$out/$1.png" -crop "$4x$5+$2+$3" -format "%[fx:mean]" info:; }
@@ -45,10 +32,6 @@ place() { # window, name
 }
 key() { xdotool key --delay 150 "$@"; sleep 0.4; }
 
-failures=0
-verdict() { # condition result, what it means
-    if [[ $1 == 1 ]]; then echo "ok: $2"; else echo "FAILED: $2"; failures=$((failures + 1)); fi
-}
 darker() { awk -v a="$1" -v b="$2" 'BEGIN { print (b < a - 0.02) ? 1 : 0 }'; }
 
 # The options dialog: no window manager runs here, so the dialog gets the keyboard by hand.
@@ -107,10 +90,9 @@ key Return
 sleep 1
 shot 09-closed
 ended=1
-kill -0 "$app" 2>/dev/null && ended=0
+kill -0 "$gallery_pid" 2>/dev/null && ended=0
 verdict "$ended" "Enter in the message box ended it and the dialog, and the gallery with them"
 chosen=$(grep -c "axis titles chosen: Flow (l/s) | Depth (m)" "$out/gallery.log" || true)
 verdict "$([[ $chosen == 1 ]] && echo 1 || echo 0)" "OK saved both typed titles"
 
-echo "$failures failure(s); screenshots in $out"
-exit $((failures > 0))
+finish

@@ -8,26 +8,14 @@ set -euo pipefail
 out=${1:?usage: form-controls.sh <screenshot folder> [build folder]}
 build=${2:-build}
 gallery="$build/apps/gallery/gallery"
-display=:97
-mkdir -p "$out"
 for tool in Xvfb xdotool import; do
   command -v "$tool" >/dev/null || { echo "form-controls: $tool is missing" >&2; exit 1; }
 done
 [ -x "$gallery" ] || { echo "form-controls: no gallery at $gallery" >&2; exit 1; }
 
-Xvfb "$display" -screen 0 1024x768x24 -nolisten tcp >/dev/null 2>&1 &
-xvfb=$!
-gallery_pid=""
-cleanup() {
-  [ -n "$gallery_pid" ] && kill "$gallery_pid" 2>/dev/null || true
-  kill "$xvfb" 2>/dev/null || true
-}
-trap cleanup EXIT
-export DISPLAY=$display
-for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break; sleep 0.1; done
-
-stdbuf -oL "$gallery" --page 50-form-controls --window --out "$out/gallery" >"$out/gallery.log" 2>&1 &
-gallery_pid=$!
+source "$(dirname "$0")/common.sh"
+start_display :97 1024x768
+start_gallery --page 50-form-controls
 
 window=""
 for _ in $(seq 300); do
@@ -37,11 +25,12 @@ for _ in $(seq 300); do
 done
 [ -n "$window" ] || { echo "form-controls: the dialog did not appear" >&2; exit 1; }
 
-shot() { sleep 0.3; import -window root "$out/$1.png"; }
+# The repaint after a key or a resize reaches the screen before the picture is taken.
+settled_shot() { sleep 0.3; shot "$1"; }
 size_of() { xdotool getwindowgeometry "$window" | awk '/Geometry/ {print $2}'; }
 
 xdotool windowactivate --sync "$window" 2>/dev/null || xdotool windowfocus "$window"
-shot 1-opened
+settled_shot 1-opened
 
 # Points of the fields in the dialog's X window, which holds the frame: a 4 px sizing border
 # and an 18 px caption above the client area, where the fields' rows are 18 dialog units
@@ -53,25 +42,22 @@ xdotool mousemove --window "$window" "$field_x" "$diameter_y" click 1
 xdotool key --window "$window" ctrl+a
 xdotool type --window "$window" --delay 40 "0.9x,"   # the x and the comma are refused
 xdotool key --window "$window" Tab
-shot 2-diameter-typed
+settled_shot 2-diameter-typed
 
 xdotool mousemove --window "$window" "$field_x" "$velocity_y" click 1
 xdotool key --window "$window" ctrl+a
 xdotool type --window "$window" --delay 40 "2.5e0"
 xdotool key --window "$window" Tab
-shot 3-velocity-typed
+settled_shot 3-velocity-typed
 
 xdotool windowsize --sync "$window" 620 420 2>/dev/null || xdotool windowsize "$window" 620 420
-shot 4-resized-larger
+settled_shot 4-resized-larger
 
 # The dialog may not become smaller than its design size, which the gallery reports.
 read -r min_w min_h < <(sed -n 's/.*Resized from \([0-9]*\) x \([0-9]*\).*/\1 \2/p' "$out/gallery.log")
 xdotool windowsize "$window" 120 80
-shot 5-below-minimum
+settled_shot 5-below-minimum
 IFS=x read -r got_w got_h < <(size_of)
 echo "form-controls: asked for 120x80 of a dialog whose minimum is ${min_w}x${min_h}: got ${got_w}x${got_h}"
-echo "form-controls: screenshots in $out"
-if [ "$got_w" -lt "$min_w" ] || [ "$got_h" -lt "$min_h" ]; then
-  echo "form-controls: FAILED: the dialog went below its minimum size" >&2
-  exit 1
-fi
+verdict $((got_w >= min_w && got_h >= min_h)) "the dialog kept its minimum size"
+finish

@@ -9,18 +9,8 @@ set -euo pipefail
 
 out=${1:?usage: menus.sh <screenshot folder> [gallery binary]}
 gallery=${2:-build/apps/gallery/gallery}
-display=:93
-mkdir -p "$out"
 
-Xvfb "$display" -screen 0 1280x1024x24 -nolisten tcp &
-xvfb=$!
-gallery_pid=
-cleanup() {
-    [ -n "$gallery_pid" ] && kill "$gallery_pid" 2>/dev/null || true
-    kill "$xvfb" 2>/dev/null || true
-}
-trap cleanup EXIT
-export DISPLAY=$display
+source "$(dirname "$0")/common.sh"
 
 wait_for() { # a command, polled until it succeeds or thirty seconds pass
     for _ in $(seq 300); do
@@ -30,23 +20,17 @@ wait_for() { # a command, polled until it succeeds or thirty seconds pass
     echo "menus.sh: timed out waiting for: $*" >&2
     return 1
 }
-wait_for xdpyinfo
 
-"$gallery" --window --page 32 --out "$out/gallery" >"$out/gallery.log" 2>&1 &
-gallery_pid=$!
+start_display :93 1280x1024
+start_gallery --page 32
 wait_for xdotool search --name "ORVAUtil Plots"
 sleep 0.5 # the first frames reach the screen
 
-shot() { import -window root "$out/$1.png"; echo "$out/$1.png"; }
 pixel() { # the colour at a screen point of a screenshot, as #RRGGBB
     convert "$out/$1.png" -crop "1x1+$2+$3" -depth 8 txt:- | grep -o '#[0-9A-F]\{6\}' | head -1
 }
 click() { xdotool mousemove "$1" "$2" sleep 0.2 click "${3:-1}" sleep 0.4; }
 
-failures=0
-expect() { # what, got, wanted
-    if [ "$2" = "$3" ]; then echo "ok: $1"; else echo "FAILED: $1: $2, wanted $3"; failures=$((failures + 1)); fi
-}
 
 # The gallery cascades its windows from (20, 20): the frame's border is 4 pixels, its caption
 # and its menu bar 19 each, so the bar's items lie on y = 52 and the MDI client starts at
@@ -76,5 +60,4 @@ shot 6-other-active
 expect "a click on its caption activates the right document" "$(pixel 6-other-active 500 77)" "$active"
 expect "the left document is then inactive" "$(pixel 6-other-active 200 77)" "$inactive"
 
-echo "screenshots in $out; $failures check(s) failed"
-exit "$failures"
+finish

@@ -10,28 +10,15 @@ set -euo pipefail
 out=${1:?usage: plots.sh <screenshot folder> [gallery]}
 here=$(cd "$(dirname "$0")/../.." && pwd)
 gallery=${2:-$here/build/apps/gallery/gallery}
-display=:95
-mkdir -p "$out"
 
-Xvfb "$display" -screen 0 1600x1000x24 -nolisten tcp >"$out/xvfb.log" 2>&1 &
-xvfb=$!
-app=
-cleanup() {
-    [[ -n $app ]] && kill "$app" 2>/dev/null || true
-    kill "$xvfb" 2>/dev/null || true
-}
-trap cleanup EXIT
-export DISPLAY=$display
-for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break; sleep 0.1; done
-
-stdbuf -oL "$gallery" --out "$out/gallery" --page 60-plot-windows --window >"$out/gallery.log" 2>&1 &
-app=$!
+source "$(dirname "$0")/common.sh"
+start_display :95 1600x1000
+start_gallery --page 60-plot-windows
 frame=$(xdotool search --sync --onlyvisible --name "plot documents" | head -1)
 free=$(xdotool search --sync --onlyvisible --name "Double click in plot" | head -1)
 dialog=$(xdotool search --sync --onlyvisible --name "^Cross-section$" | head -1)
 sleep 1
 
-shot() { import -window root "$out/$1.png"; echo "$out/$1.png"; }
 # The part of a screenshot inside a window, less its frame and caption.
 crop() { # shot, window, name of the cropped picture
     eval "$(xdotool getwindowgeometry --shell "$2")"
@@ -44,13 +31,8 @@ differs() { # two pictures: true when some pixel differs
     [[ ${changed%% *} != 0 ]]
 }
 
-failures=0
 check() { # condition command..., what it means
-    local what=${*: -1}
-    if "${@:1:$#-1}"; then echo "ok: $what"; else
-        echo "FAILED: $what"
-        failures=$((failures + 1))
-    fi
+    if "${@:1:$#-1}"; then verdict 1 "${*: -1}"; else verdict 0 "${*: -1}"; fi
 }
 
 shot 01-shown
@@ -74,9 +56,8 @@ shot 03-free-plot-zoomed
 crop 03-free-plot-zoomed "$free" 03-free
 check differs 02-free 03-free "a dragged box zooms the free plot"
 
-check kill -0 "$app" "the gallery still runs"
+check kill -0 "$gallery_pid" "the gallery still runs"
 grep -q "canvas: chart held" "$out/gallery.log"
 check test $? -eq 0 "the canvas in the dialog holds its chart"
 
-echo "$failures failure(s); screenshots in $out"
-exit $((failures > 0))
+finish

@@ -9,41 +9,18 @@ set -euo pipefail
 out=${1:?usage: standard-controls.sh <screenshot folder> [gallery]}
 here=$(cd "$(dirname "$0")/../.." && pwd)
 gallery=${2:-$here/build/apps/gallery/gallery}
-display=:91
-mkdir -p "$out"
 
-Xvfb "$display" -screen 0 1280x800x24 -nolisten tcp >"$out/xvfb.log" 2>&1 &
-xvfb=$!
-app=
-cleanup() {
-    [[ -n $app ]] && kill "$app" 2>/dev/null || true
-    kill "$xvfb" 2>/dev/null || true
-}
-trap cleanup EXIT
-export DISPLAY=$display
-for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break; sleep 0.1; done
-
-stdbuf -oL "$gallery" --out "$out/gallery" --page 30-standard-controls --window >"$out/gallery.log" 2>&1 &
-app=$!
+source "$(dirname "$0")/common.sh"
+start_display :91 1280x800
+start_gallery --page 30-standard-controls
 window=$(xdotool search --sync --onlyvisible --name "Standard controls" | head -1)
 sleep 1
 
-# Where the gallery says its controls are, relative to the dialog's corner.
-place() {
-    local x y
-    read -r x y < <(awk -v n="$1" '$1 == "at" && $2 == n { print $3, $4 }' "$out/gallery.log")
-    [[ -n $x ]] || { echo "no place \"$1\" in the gallery's report" >&2; exit 1; }
-    eval "$(xdotool getwindowgeometry --shell "$window")"
-    echo "$((X + x)) $((Y + y))"
-}
+# Where the gallery says its controls are.
+place() { report_point "$1" "$window"; }
 click() { xdotool mousemove $(place "$1") sleep 0.2 click 1 sleep 0.4; }
-shot() { import -window root "$out/$1.png"; echo "$out/$1.png"; }
 pixel() { convert "$out/$1.png" -format "%[pixel:p{$2,$3}]" info:; }
 
-failures=0
-verdict() { # passed (0 or 1), what it means
-    if (($1)); then echo "ok: $2"; else echo "FAILED: $2"; failures=$((failures + 1)); fi
-}
 check() { # shot, x, y, is|not, colour, what it means
     local got
     got=$(pixel "$1" "$2" "$3")
@@ -60,10 +37,8 @@ sleep 0.5
 shot 02-typed
 read -r ex ey < <(place name-edit)
 field="80x12+$((ex - 40))+$((ey - 6))"
-convert "$out/01-shown.png" -crop "$field" +repage "$out/field-before.png"
-convert "$out/02-typed.png" -crop "$field" +repage "$out/field-after.png"
-changed=$(compare -metric AE "$out/field-before.png" "$out/field-after.png" null: 2>&1 || true)
-verdict $((${changed%% *} > 50)) "the typed text shows in the edit ($changed pixels changed)"
+changed=$(pixels_changed 01-shown 02-typed "$field")
+verdict $((changed > 50)) "the typed text shows in the edit ($changed pixels changed)"
 
 click unchecked-box
 shot 03-ticked
@@ -100,5 +75,4 @@ shot 06-resized
 eval "$(xdotool getwindowgeometry --shell "$window")"
 verdict $((WIDTH == before + 60)) "the size grip widened the dialog by 60 pixels ($before to $WIDTH)"
 
-echo "$failures failure(s); screenshots in $out"
-exit $((failures > 0))
+finish

@@ -1,6 +1,6 @@
 #include "cells/InPlaceEdit.h"
 
-#include "grid/GridNotify.h"
+#include "cells/InPlaceEndEdit.h"
 #include "platform/gdi/DC.h"
 #include "platform/gdi/Font.h"
 
@@ -127,20 +127,7 @@ void CInPlaceEdit::EndEdit() {
     const HWND self = m_hWnd;
     CString text;
     GetWindowText(text);
-
-    GV_DISPINFO info{};
-    info.hdr.hwndFrom = self;
-    info.hdr.idFrom = UINT_PTR(GetDlgCtrlID());
-    info.hdr.code = UINT(GV_NOTIFY_ENDLABELEDIT);
-    info.item.mask = GV_MASK_TEXT | GV_MASK_PARAM;
-    info.item.row = m_nRow;
-    info.item.col = m_nColumn;
-    info.item.text = text;
-    info.item.param = LPARAM(m_nLastChar);
-    CWnd* receiver = GetOwner() != nullptr ? GetOwner() : GetParent();
-    if (receiver != nullptr) {
-        receiver->SendMessage(WM_NOTIFY, info.hdr.idFrom, LPARAM(&info));
-    }
+    SendEndEdit(*this, m_nRow, m_nColumn, text, m_nLastChar);
     // The grid may have closed the editor already; this object goes with its window.
     if (::IsWindow(self)) {
         ::SendMessage(self, WM_CLOSE, 0, 0);

@@ -1,6 +1,6 @@
 #include "cells/InPlaceList.h"
 
-#include "grid/GridNotify.h"
+#include "cells/InPlaceEndEdit.h"
 #include "platform/gdi/DC.h"
 #include "platform/gdi/Font.h"
 #include "platform/system/SystemMetrics.h"
@@ -169,20 +169,7 @@ void CInPlaceList::EndEdit() {
     if (::IsWindow(self)) {
         GetWindowText(text);
     }
-
-    GV_DISPINFO info{};
-    info.hdr.hwndFrom = self;
-    info.hdr.idFrom = UINT_PTR(GetDlgCtrlID());
-    info.hdr.code = UINT(GV_NOTIFY_ENDLABELEDIT);
-    info.item.mask = GV_MASK_TEXT | GV_MASK_PARAM;
-    info.item.row = m_nRow;
-    info.item.col = m_nCol;
-    info.item.text = text;
-    info.item.param = LPARAM(m_nLastChar);
-    CWnd* receiver = GetOwner() != nullptr ? GetOwner() : GetParent();
-    if (receiver != nullptr) {
-        receiver->SendMessage(WM_NOTIFY, info.hdr.idFrom, LPARAM(&info));
-    }
+    SendEndEdit(*this, m_nRow, m_nCol, text, m_nLastChar);
     // The close is posted, not sent: the combo box may still be inside the handler of the
     // notification that ended the edit (a pick in its list), and must not die under it. The
     // grid may have destroyed the window already, so it is looked up again by its handle.

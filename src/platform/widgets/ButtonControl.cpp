@@ -126,16 +126,6 @@ LRESULT ButtonBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         Redraw();
         return result;
     }
-    case WM_ERASEBKGND:
-        return 1;
-    case WM_PAINT: {
-        PAINTSTRUCT ps;
-        HDC dc = ::BeginPaint(Window(), &ps);
-        if (CDC* cdc = CDC::FromHandle(dc))
-            Paint(*cdc);
-        ::EndPaint(Window(), &ps);
-        return 0;
-    }
     default:
         return Default(message, wParam, lParam);
     }

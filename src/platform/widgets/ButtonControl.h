@@ -36,7 +36,7 @@ private:
     void Redraw() { ::InvalidateRect(Window(), nullptr, FALSE); }
 
     // Painting (ButtonPainter.cpp).
-    void Paint(CDC& dc);
+    void Paint(CDC& dc) override;
     void PaintPush(CDC& dc, const CRect& client, bool enabled);
     void PaintCheck(CDC& dc, const CRect& client, bool enabled);
     void PaintGroupBox(CDC& dc, const CRect& client, bool enabled);

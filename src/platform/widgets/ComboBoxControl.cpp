@@ -174,17 +174,6 @@ LRESULT ComboBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         if (!HasEdit() || HWND(wParam) != Edit())
             OnFocusLeft(HWND(wParam));
         return 0;
-    case WM_ERASEBKGND:
-        return 1;
-    case WM_PAINT: {
-        PAINTSTRUCT ps;
-        HDC dc = ::BeginPaint(Window(), &ps);
-        if (CDC* cdc = CDC::FromHandle(dc))
-            Paint(*cdc);
-        ::EndPaint(Window(), &ps);
-        return 0;
-    }
-
     case CB_ADDSTRING:
         return Insert(-1, text);
     case CB_INSERTSTRING:

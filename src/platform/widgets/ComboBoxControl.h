@@ -71,7 +71,7 @@ private:
     void OnFocusArrived(HWND from);
     void OnFocusLeft(HWND to);
 
-    void Paint(CDC& dc);
+    void Paint(CDC& dc) override;
 
     std::vector<Item> m_items;
     int m_curSel = -1;
@@ -108,7 +108,7 @@ private:
     void EnsureVisible(int index);
     void OnButtonDown(CPoint client);
     void OnButtonUp(CPoint client);
-    void Paint(CDC& dc);
+    void Paint(CDC& dc) override;
 
     HWND m_combo = nullptr;
     int m_hot = -1;

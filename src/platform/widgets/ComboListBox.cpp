@@ -78,16 +78,6 @@ LRESULT ComboListBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             if (ComboBehaviour* combo = Combo())
                 combo->ListLostCapture();
         return 0;
-    case WM_ERASEBKGND:
-        return 1;
-    case WM_PAINT: {
-        PAINTSTRUCT ps;
-        HDC dc = ::BeginPaint(Window(), &ps);
-        if (CDC* cdc = CDC::FromHandle(dc))
-            Paint(*cdc);
-        ::EndPaint(Window(), &ps);
-        return 0;
-    }
     default:
         return Default(message, wParam, lParam);
     }

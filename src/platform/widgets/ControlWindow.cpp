@@ -23,7 +23,25 @@ struct BehaviourTable {
         return entries;
     }
     static void MarkDestroyed(ControlBehaviour& b) { b.m_destroyed = true; }
+    static LRESULT Answer(ControlBehaviour& b, UINT message, WPARAM wParam, LPARAM lParam);
 };
+
+LRESULT BehaviourTable::Answer(ControlBehaviour& b, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_PAINT: {
+        PAINTSTRUCT ps;
+        HDC dc = ::BeginPaint(b.Window(), &ps);
+        if (CDC* cdc = CDC::FromHandle(dc))
+            b.Paint(*cdc);
+        ::EndPaint(b.Window(), &ps);
+        return 0;
+    }
+    default:
+        return b.Handle(message, wParam, lParam);
+    }
+}
 
 LRESULT RunBehaviour(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, BehaviourFactory make) {
     auto& entries = BehaviourTable::Entries();
@@ -36,7 +54,7 @@ LRESULT RunBehaviour(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, Beha
     // References to map elements outlive rehashing; only erasing this entry ends them.
     BehaviourTable::Entry& entry = it->second;
     ++entry.busy;
-    const LRESULT result = entry.behaviour->Handle(message, wParam, lParam);
+    const LRESULT result = BehaviourTable::Answer(*entry.behaviour, message, wParam, lParam);
     if (message == WM_NCDESTROY)
         BehaviourTable::MarkDestroyed(*entry.behaviour);
     if (--entry.busy == 0 && !entry.behaviour->Alive())

@@ -23,8 +23,10 @@ class CFont;
 
 namespace widgets {
 
-// The behaviour of one control window. Handle answers every message the window gets; it passes
-// what it does not handle to DefWindowProc.
+// The behaviour of one control window. Handle answers every message the window gets but the
+// painting ones; it passes what it does not handle to DefWindowProc. A control draws its whole
+// client area in Paint, so the machinery answers WM_PAINT by calling it between BeginPaint and
+// EndPaint, and WM_ERASEBKGND by erasing nothing.
 class ControlBehaviour {
 public:
     explicit ControlBehaviour(HWND hwnd) : m_hwnd(hwnd) {}
@@ -41,6 +43,8 @@ public:
     bool Alive() const { return !m_destroyed; }
 
 protected:
+    virtual void Paint(CDC& dc) = 0;
+
     LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam) {
         return ::DefWindowProc(m_hwnd, message, wParam, lParam);
     }

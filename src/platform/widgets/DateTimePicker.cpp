@@ -33,10 +33,6 @@ protected:
     void PostNcDestroy() override { delete this; }
 };
 
-HFONT DefaultFont() {
-    return HFONT(GetStockObject(DEFAULT_GUI_FONT));
-}
-
 bool ValidTime(const SYSTEMTIME* time) {
     DATE date = 0;
     return time != nullptr && SystemTimeToVariantTime(time, &date);
@@ -132,7 +128,7 @@ DateTimePicker::Layout DateTimePicker::MakeLayout() const {
 
     CDC dc;
     dc.CreateCompatibleDC(nullptr);
-    CFont* old = dc.SelectObject(CFont::FromHandle(m_font ? m_font : DefaultFont()));
+    CFont* old = dc.SelectObject(widgets::ControlFont(Window()));
     const CalendarNames names = CurrentCalendarNames();
     layout.tokens = ParsePicture(Picture().c_str());
     for (const PictureToken& token : layout.tokens) {
@@ -148,9 +144,7 @@ DateTimePicker::Layout DateTimePicker::MakeLayout() const {
 
 // Painting.
 
-void DateTimePicker::Paint() {
-    PAINTSTRUCT ps{};
-    CDC& dc = *CDC::FromHandle(BeginPaint(Window(), &ps));
+void DateTimePicker::Paint(CDC& dc) {
     const Layout layout = MakeLayout();
     const bool enabled = IsWindowEnabled(Window());
     const bool focused = GetFocus() == Window();
@@ -166,7 +160,7 @@ void DateTimePicker::Paint() {
                                 (enabled ? 0 : DFCS_INACTIVE));
     }
 
-    CFont* oldFont = dc.SelectObject(CFont::FromHandle(m_font ? m_font : DefaultFont()));
+    CFont* oldFont = dc.SelectObject(widgets::ControlFont(Window()));
     dc.SetBkMode(TRANSPARENT);
     CRect textArea = client;
     textArea.DeflateRect(2, 2);
@@ -199,7 +193,6 @@ void DateTimePicker::Paint() {
         dc.DrawFrameControl(&button, DFC_SCROLL,
                             DFCS_SCROLLCOMBOBOX | inactive | (m_calendar ? DFCS_PUSHED : 0));
     }
-    EndPaint(Window(), &ps);
 }
 
 // Editing the fields.
@@ -467,7 +460,7 @@ void DateTimePicker::DropDown() {
     if (!calendar->CreatePopup(CPoint(window.left, window.bottom), CWnd::FromHandle(Window())))
         return;
     m_calendar = calendar->m_hWnd;
-    SendMessage(m_calendar, WM_SETFONT, WPARAM(m_font), FALSE);
+    SendMessage(m_calendar, WM_SETFONT, SendMessage(Window(), WM_GETFONT, 0, 0), FALSE);
     calendar->SetCurSel(&m_time);
     if (Style() & DTS_RIGHTALIGN) {
         CRect size;
@@ -570,22 +563,10 @@ LRESULT DateTimePicker::GetRange(SYSTEMTIME* range) const {
 
 LRESULT DateTimePicker::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-    case WM_PAINT:
-        Paint();
-        return 0;
-    case WM_ERASEBKGND:
-        return 1;
     case WM_SIZE:
     case WM_ENABLE:
         InvalidateRect(Window(), nullptr, TRUE);
         return 0;
-    case WM_SETFONT:
-        m_font = HFONT(wParam);
-        if (LOWORD(lParam))
-            InvalidateRect(Window(), nullptr, TRUE);
-        return 0;
-    case WM_GETFONT:
-        return LRESULT(m_font);
     case WM_GETDLGCODE:
         return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case WM_SETFOCUS:

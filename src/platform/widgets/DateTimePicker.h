@@ -33,7 +33,7 @@ private:
     bool Editable(const PictureToken& token) const;
     std::vector<int> EditableFields(const Layout& layout) const;
 
-    void Paint();
+    void Paint(CDC& dc) override;
     void OnButtonDown(CPoint point);
     void OnKeyDown(UINT key);
     void OnChar(UINT ch);
@@ -62,7 +62,6 @@ private:
     int m_field = -1;                    // the selected field's token
     int m_typedDigits = 0;               // digits typed into the selected field so far
     int m_typedValue = 0;
-    HFONT m_font = nullptr;
     std::optional<SYSTEMTIME> m_minimum, m_maximum;
     HWND m_calendar = nullptr; // the open drop-down calendar
 };

@@ -61,16 +61,6 @@ LRESULT EditBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ENABLE:
         Redraw();
         return 0;
-    case WM_ERASEBKGND:
-        return 1; // painting fills the background with the control's colours
-    case WM_PAINT: {
-        PAINTSTRUCT ps;
-        HDC dc = ::BeginPaint(Window(), &ps);
-        if (CDC* cdc = CDC::FromHandle(dc))
-            Paint(*cdc);
-        ::EndPaint(Window(), &ps);
-        return 0;
-    }
     case WM_TIMER:
         if (wParam == kCaretTimer) {
             m_caretShown = !m_caretShown;

@@ -59,7 +59,7 @@ private:
     void OnVScroll(UINT request);
     void Redraw();
     void RestartCaretBlink();
-    void Paint(CDC& dc);
+    void Paint(CDC& dc) override;
     void PaintLine(CDC& dc, int line, const CRect& format, COLORREF text);
 
     static constexpr UINT_PTR kCaretTimer = 0xEC01; // clear of the ids a derived class picks

@@ -40,10 +40,6 @@ struct CalendarLayout {
     CSize Size() const { return CSize(today.right + kMargin, today.bottom + kMargin); }
 };
 
-HFONT DefaultFont() {
-    return HFONT(GetStockObject(DEFAULT_GUI_FONT));
-}
-
 CalendarLayout LayoutFor(HFONT font) {
     CDC dc;
     dc.CreateCompatibleDC(nullptr);
@@ -96,7 +92,7 @@ public:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
-    CalendarLayout Layout() const { return LayoutFor(m_font ? m_font : DefaultFont()); }
+    CalendarLayout Layout() const { return LayoutFor(*widgets::ControlFont(Window())); }
     SYSTEMTIME Today() const {
         if (m_today)
             return *m_today;
@@ -116,7 +112,7 @@ private:
         return DayOf(year, month, day);
     }
 
-    void Paint();
+    void Paint(CDC& dc) override;
     UINT HitTest(CPoint point, SYSTEMTIME& day) const;
     void OnButtonDown(CPoint point);
     void OnKey(UINT key);
@@ -130,7 +126,6 @@ private:
 
     HWND m_notify = nullptr; // the window it was made for
     bool m_popup = false;
-    HFONT m_font = nullptr;
     SYSTEMTIME m_selection{};
     std::optional<SYSTEMTIME> m_today;
 };
@@ -260,15 +255,13 @@ void MonthCalendar::OnKey(UINT key) {
 
 // Painting.
 
-void MonthCalendar::Paint() {
-    PAINTSTRUCT ps{};
-    CDC& dc = *CDC::FromHandle(BeginPaint(Window(), &ps));
+void MonthCalendar::Paint(CDC& dc) {
     const CalendarLayout layout = Layout();
     const CalendarNames names = CurrentCalendarNames();
     CRect client;
     GetClientRect(Window(), &client);
     dc.FillSolidRect(client, GetSysColor(COLOR_WINDOW));
-    CFont* oldFont = dc.SelectObject(CFont::FromHandle(m_font ? m_font : DefaultFont()));
+    CFont* oldFont = dc.SelectObject(widgets::ControlFont(Window()));
     dc.SetBkMode(TRANSPARENT);
 
     // The title: month and year between the arrows.
@@ -338,7 +331,6 @@ void MonthCalendar::Paint() {
                 DT_LEFT | DT_VCENTER | DT_SINGLELINE);
 
     dc.SelectObject(oldFont);
-    EndPaint(Window(), &ps);
 }
 
 // The messages and the window class.
@@ -351,18 +343,6 @@ LRESULT MonthCalendar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         m_popup = cs->style & WS_POPUP;
         return Default(message, wParam, lParam);
     }
-    case WM_PAINT:
-        Paint();
-        return 0;
-    case WM_ERASEBKGND:
-        return 1;
-    case WM_SETFONT:
-        m_font = HFONT(wParam);
-        if (LOWORD(lParam))
-            InvalidateRect(Window(), nullptr, TRUE);
-        return 0;
-    case WM_GETFONT:
-        return LRESULT(m_font);
     case WM_GETDLGCODE:
         return DLGC_WANTARROWS;
     case WM_LBUTTONDOWN:

@@ -24,7 +24,7 @@ private:
     void Begin(CPoint client);
     void Drag(CPoint client);
     void End();
-    void Paint(CDC& dc);
+    void Paint(CDC& dc) override;
 
     bool m_dragging = false;
     CPoint m_start;     // where the drag began, in screen coordinates
@@ -59,16 +59,6 @@ LRESULT SizeGripBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         if (m_dragging && HWND(lParam) != Window())
             End();
         return 0;
-    case WM_ERASEBKGND:
-        return 1;
-    case WM_PAINT: {
-        PAINTSTRUCT ps;
-        HDC dc = ::BeginPaint(Window(), &ps);
-        if (CDC* cdc = CDC::FromHandle(dc))
-            Paint(*cdc);
-        ::EndPaint(Window(), &ps);
-        return 0;
-    }
     default:
         return Default(message, wParam, lParam);
     }

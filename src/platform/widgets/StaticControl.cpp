@@ -19,7 +19,7 @@ public:
 
 private:
     DWORD Kind() const { return Style() & SS_TYPEMASK; }
-    void Paint(CDC& dc);
+    void Paint(CDC& dc) override;
     void PaintText(CDC& dc, const CRect& client);
     void PaintBitmap(CDC& dc);
 
@@ -62,16 +62,6 @@ LRESULT StaticBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         const LRESULT result = Default(message, wParam, lParam);
         ::InvalidateRect(Window(), nullptr, TRUE);
         return result;
-    }
-    case WM_ERASEBKGND:
-        return 1;
-    case WM_PAINT: {
-        PAINTSTRUCT ps;
-        HDC dc = ::BeginPaint(Window(), &ps);
-        if (CDC* cdc = CDC::FromHandle(dc))
-            Paint(*cdc);
-        ::EndPaint(Window(), &ps);
-        return 0;
     }
     default:
         return Default(message, wParam, lParam);

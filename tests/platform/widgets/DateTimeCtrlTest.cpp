@@ -303,6 +303,16 @@ TEST_F(DateTimeCtrlTest, TheButtonOpensTheCalendarAndAClickOnADayPicksIt) {
     EXPECT_EQ(parent.heard[1].st.wDay, 14);
 }
 
+TEST_F(DateTimeCtrlTest, APickersFontIsKeptAndGoesToItsCalendar) {
+    CFont large;
+    ASSERT_TRUE(large.CreatePointFont(160, "Sans"));
+    picker.SetFont(&large);
+    EXPECT_EQ(HFONT(*picker.GetFont()), HFONT(large));
+    ClickButton();
+    ASSERT_NE(Calendar(), nullptr);
+    EXPECT_EQ(HFONT(SendMessage(Calendar(), WM_GETFONT, 0, 0)), HFONT(large));
+}
+
 TEST_F(DateTimeCtrlTest, TheCalendarMovesByMonthsAndDaysFromTheKeysAndArrows) {
     picker.SetFocus();
     ui.PressKey(VK_F4);
