@@ -1,3 +1,5 @@
+// The colour chooser a colour cell opens: the standard colours as swatches and a custom one.
+
 #include "cells/ColorChooserDlg.h"
 
 #include "platform/window/WindowDC.h"

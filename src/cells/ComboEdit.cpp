@@ -1,3 +1,5 @@
+// The edit field of an in-place drop-down list: hands the list's keys on and ends the edit.
+
 #include "cells/ComboEdit.h"
 
 #include "cells/InPlaceList.h"

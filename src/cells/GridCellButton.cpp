@@ -1,3 +1,5 @@
+// The button cell: a push button drawn in the cell that reports a click inside it.
+
 #include "cells/GridCellButton.h"
 
 #include "cells/InPlaceButton.h"

@@ -1,3 +1,5 @@
+// The check box cell: a box and a label, toggled by a press and release on the box.
+
 #include "cells/GridCellCheckbox.h"
 
 #include "cells/InPlaceButton.h"

@@ -1,3 +1,5 @@
+// The combo cell: a list of options, edited in place by a drop-down list.
+
 #include "cells/GridCellCombo.h"
 
 #include "cells/InPlaceList.h"

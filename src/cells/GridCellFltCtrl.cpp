@@ -1,3 +1,5 @@
+// The floating-point cell: text normalised on the way in, parsed to a double on the way out.
+
 #include "cells/GridCellFltCtrl.h"
 
 #include "support/FormatDouble.h"

@@ -1,3 +1,5 @@
+// The integer cell: text normalised on the way in, parsed to an int on the way out.
+
 #include "cells/GridCellIntCtrl.h"
 
 #include <cstdio>

@@ -1,3 +1,5 @@
+// The date and time cell: a value shown in the regional formats, edited by a picker.
+
 #include "cells/GridCellTimeCtrl.h"
 
 #include "cells/InPlaceTimeCtrl.h"

@@ -1,3 +1,5 @@
+// The colour cell: a cell that shows its background colour and opens the chooser.
+
 #include "cells/GridColorCell.h"
 
 #include "cells/ColorChooserDlg.h"

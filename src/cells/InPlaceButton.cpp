@@ -1,3 +1,5 @@
+// The transient button over a button or check box cell, alive from the press to the release.
+
 #include "cells/InPlaceButton.h"
 
 #include "cells/GridCellCheckbox.h"

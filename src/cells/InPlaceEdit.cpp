@@ -1,3 +1,5 @@
+// The in-place text editor of a cell: an edit control that ends the edit when it loses focus.
+
 #include "cells/InPlaceEdit.h"
 
 #include "cells/InPlaceEndEdit.h"

@@ -1,3 +1,5 @@
+// The in-place drop-down list of a combo cell, which owns itself and ends the edit.
+
 #include "cells/InPlaceList.h"
 
 #include "cells/InPlaceEndEdit.h"

@@ -1,3 +1,5 @@
+// The in-place date and time picker of a time cell, which owns itself and ends the edit.
+
 #include "cells/InPlaceTimeCtrl.h"
 
 #include "cells/GridCellTimeCtrl.h"

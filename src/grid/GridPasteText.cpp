@@ -1,3 +1,5 @@
+// Splitting pasted clipboard text into the fields of a block of cells.
+
 #include "grid/GridPasteText.h"
 
 namespace {

@@ -1,3 +1,5 @@
+// The in-process drag and drop loop: follows the mouse and asks the drop targets under it.
+
 #include "platform/host/DragDrop.h"
 
 #include "platform/host/Host.h"

@@ -1,3 +1,5 @@
+// Data sources and data objects: text in a clipboard format, to the clipboard or a drag.
+
 #include "platform/host/OleDataObject.h"
 
 #include "platform/host/Clipboard.h"

@@ -1,3 +1,5 @@
+// Drop targets registered on windows, and text dropped on a display by another program.
+
 #include "platform/host/OleDropTarget.h"
 
 #include "platform/host/Clipboard.h"

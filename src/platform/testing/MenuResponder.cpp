@@ -1,3 +1,5 @@
+// Answers pop-up menus in tests and records the items each menu showed.
+
 #include "platform/testing/MenuResponder.h"
 
 #include "platform/window/Menu.h"
