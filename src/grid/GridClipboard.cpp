@@ -6,7 +6,7 @@
 #include "grid/GridPasteText.h"
 #include "platform/host/Clipboard.h"
 #include "platform/host/GlobalMemory.h"
-#include "platform/host/SharedFile.h"
+#include "platform/window/SharedFile.h"
 
 #include <cstring>
 #include <memory>

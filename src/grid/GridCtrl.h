@@ -13,7 +13,7 @@
 #include "grid/GridDefaultCell.h"
 #include "grid/GridItem.h"
 #include "grid/GridNotify.h"
-#include "platform/host/OleDataObject.h"
+#include "platform/window/OleDataObject.h"
 #include "platform/window/Wnd.h"
 
 #include <functional>

@@ -3,7 +3,7 @@
 // CGridDropTarget: the drop target of one grid. It answers only for its grid's window and
 // hands each drag event to the grid, which decides what a drop does.
 
-#include "platform/host/OleDropTarget.h"
+#include "platform/window/OleDropTarget.h"
 
 class CGridCtrl;
 

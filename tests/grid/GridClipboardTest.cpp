@@ -4,9 +4,9 @@
 #include "GridOnScreen.h"
 
 #include "platform/host/Clipboard.h"
-#include "platform/host/DragDrop.h"
+#include "platform/window/DragDrop.h"
 #include "platform/host/GlobalMemory.h"
-#include "platform/host/OleDropTarget.h"
+#include "platform/window/OleDropTarget.h"
 #include "platform/window/Input.h"
 
 #include <cstring>

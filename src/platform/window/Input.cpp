@@ -4,7 +4,7 @@
 #include "platform/window/Input.h"
 
 #include "platform/host/Host.h"
-#include "platform/host/OleDropTarget.h"
+#include "platform/window/OleDropTarget.h"
 #include "platform/window/InputState.h"
 #include "platform/window/KeyboardLayout.h"
 #include "platform/window/Menu.h"

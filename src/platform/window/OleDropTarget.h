@@ -7,7 +7,7 @@
 
 #include "platform/base/Export.h"
 #include "platform/base/Rect.h"
-#include "platform/host/OleDataObject.h"
+#include "platform/window/OleDataObject.h"
 
 class COleDataObject;
 class CWnd;

@@ -1,6 +1,6 @@
 // Data sources and data objects: text in a clipboard format, to the clipboard or a drag.
 
-#include "platform/host/OleDataObject.h"
+#include "platform/window/OleDataObject.h"
 
 #include "platform/host/Clipboard.h"
 #include "platform/host/GlobalMemory.h"

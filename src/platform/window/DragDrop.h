@@ -11,7 +11,7 @@
 // window/Input.h). A loop with nothing more to do is cancelled, as nobody else could end it.
 
 #include "platform/base/Export.h"
-#include "platform/host/OleDataObject.h"
+#include "platform/window/OleDataObject.h"
 
 #include <functional>
 

@@ -1,6 +1,6 @@
 // Drop targets registered on windows, and text dropped on a display by another program.
 
-#include "platform/host/OleDropTarget.h"
+#include "platform/window/OleDropTarget.h"
 
 #include "platform/host/Clipboard.h"
 #include "platform/host/GlobalMemory.h"

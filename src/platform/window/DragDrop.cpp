@@ -1,9 +1,9 @@
 // The in-process drag and drop loop: follows the mouse and asks the drop targets under it.
 
-#include "platform/host/DragDrop.h"
+#include "platform/window/DragDrop.h"
 
 #include "platform/host/Host.h"
-#include "platform/host/OleDropTarget.h"
+#include "platform/window/OleDropTarget.h"
 #include "platform/window/Wnd.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // A growable memory file whose contents can be handed over as a global memory block.
 
-#include "platform/host/SharedFile.h"
+#include "platform/window/SharedFile.h"
 
 #include "platform/host/GlobalMemory.h"
 
