@@ -9,7 +9,7 @@
 HeadlessHost::HeadlessHost() = default;
 HeadlessHost::~HeadlessHost() = default;
 
-Surface* HeadlessHost::CreateWindowSurface(HWND window, const RECT& screenRect, DWORD) {
+Surface* HeadlessHost::CreateWindowSurface(HWND window, const RECT& screenRect, const SurfaceKind&) {
     const CRect r(screenRect);
     auto& slot = m_surfaces[window];
     slot = std::make_unique<Surface>(std::max(r.Width(), 1), std::max(r.Height(), 1));

@@ -15,7 +15,7 @@ public:
 
     const char* Name() const override { return "headless"; }
 
-    Surface* CreateWindowSurface(HWND window, const RECT& screenRect, DWORD style) override;
+    Surface* CreateWindowSurface(HWND window, const RECT& screenRect, const SurfaceKind& kind) override;
     Surface* GetWindowSurface(HWND window) override;
     void MoveWindowSurface(HWND window, const RECT& screenRect) override;
     void DestroyWindowSurface(HWND window) override;

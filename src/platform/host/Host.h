@@ -18,15 +18,22 @@
 
 class Surface;
 
+// How a display shows a top-level window.
+struct SurfaceKind {
+    bool captioned = false; // gets the display's decorations, and with them moving and closing
+    bool popup = false;     // a menu or a list: above its owner, bare, without a task-bar entry
+    bool resizable = false;
+};
+
 class ORVA_API Host {
 public:
     virtual ~Host() = default;
     virtual const char* Name() const = 0;
 
     // Top-level windows: the host owns one surface for each, sized to the whole window. The
-    // style tells a display host how to show it: a WS_POPUP window without a caption is a
-    // pop-up (a menu, a list) that shows above its owner, bare and without a task-bar entry.
-    virtual Surface* CreateWindowSurface(HWND window, const RECT& screenRect, DWORD style) = 0;
+    // kind tells a display host how to show it; the window layer decides it from the style.
+    virtual Surface* CreateWindowSurface(HWND window, const RECT& screenRect,
+                                         const SurfaceKind& kind) = 0;
     virtual Surface* GetWindowSurface(HWND window) = 0;
     virtual void MoveWindowSurface(HWND window, const RECT& screenRect) = 0;
     virtual void DestroyWindowSurface(HWND window) = 0;

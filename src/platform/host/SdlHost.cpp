@@ -5,7 +5,6 @@
 #include "platform/gdi/Surface.h"
 #include "platform/host/SdlKeys.h"
 #include "platform/window/Input.h"
-#include "platform/window/WindowStyles.h"
 
 #include <SDL2/SDL.h>
 #include <cairo.h>
@@ -41,14 +40,13 @@ namespace {
 // The framework draws its own frame, so only windows with a caption get the display's
 // decorations too (and with them moving and closing by the user); pop-ups stay bare, above
 // their owner at their own screen position, and out of the task bar.
-Uint32 SdlWindowFlags(DWORD style) {
+Uint32 SdlWindowFlags(const SurfaceKind& kind) {
     Uint32 flags = SDL_WINDOW_HIDDEN;
-    if ((style & WS_CAPTION) != WS_CAPTION) {
+    if (!kind.captioned)
         flags |= SDL_WINDOW_BORDERLESS;
-        if (style & WS_POPUP)
-            flags |= SDL_WINDOW_SKIP_TASKBAR | SDL_WINDOW_POPUP_MENU | SDL_WINDOW_ALWAYS_ON_TOP;
-    }
-    if (style & WS_THICKFRAME)
+    if (kind.popup)
+        flags |= SDL_WINDOW_SKIP_TASKBAR | SDL_WINDOW_POPUP_MENU | SDL_WINDOW_ALWAYS_ON_TOP;
+    if (kind.resizable)
         flags |= SDL_WINDOW_RESIZABLE;
     return flags;
 }
@@ -134,7 +132,8 @@ std::uint32_t SdlHost::SdlWindowId(HWND window) const {
     return it != m_windows.end() && it->second->window ? SDL_GetWindowID(it->second->window) : 0;
 }
 
-Surface* SdlHost::CreateWindowSurface(HWND window, const RECT& screenRect, DWORD style) {
+Surface* SdlHost::CreateWindowSurface(HWND window, const RECT& screenRect,
+                                      const SurfaceKind& kind) {
     const CRect r(screenRect);
     const int width = std::max(r.Width(), 1);
     const int height = std::max(r.Height(), 1);
@@ -142,7 +141,7 @@ Surface* SdlHost::CreateWindowSurface(HWND window, const RECT& screenRect, DWORD
     w->surface = std::make_unique<Surface>(width, height);
     w->screenRect = r;
     // Without an SDL window the surface still works; the window just never shows.
-    w->window = SDL_CreateWindow("", r.left, r.top, width, height, SdlWindowFlags(style));
+    w->window = SDL_CreateWindow("", r.left, r.top, width, height, SdlWindowFlags(kind));
     if (w->window)
         w->renderer = CreateRenderer(w->window);
     Surface* surface = w->surface.get();

@@ -25,7 +25,7 @@ public:
 
     const char* Name() const override { return "sdl"; }
 
-    Surface* CreateWindowSurface(HWND window, const RECT& screenRect, DWORD style) override;
+    Surface* CreateWindowSurface(HWND window, const RECT& screenRect, const SurfaceKind& kind) override;
     Surface* GetWindowSurface(HWND window) override;
     void MoveWindowSurface(HWND window, const RECT& screenRect) override;
     void DestroyWindowSurface(HWND window) override;

@@ -119,7 +119,11 @@ HWND CreateWindowEx(DWORD exStyle, LPCSTR className, LPCSTR windowName, DWORD st
     w->rect = InitialRect(*w, x, y, width, height);
     w->text = windowName && !IS_INTRESOURCE(windowName) ? windowName : "";
     if (IsTopLevel(*w))
-        GetHost().CreateWindowSurface(hwnd, w->rect, w->style);
+        GetHost().CreateWindowSurface(
+            hwnd, w->rect,
+            SurfaceKind{.captioned = (w->style & WS_CAPTION) == WS_CAPTION,
+                        .popup = (w->style & WS_POPUP) && (w->style & WS_CAPTION) != WS_CAPTION,
+                        .resizable = (w->style & WS_THICKFRAME) != 0});
     HookCreatingWindow(*w);
 
     CREATESTRUCT cs{param,           instance,    menuOrId,     parent,      w->rect.Height(),
