@@ -181,15 +181,18 @@ void BuildPlotInteractionPage(GalleryContext& context) {
     const HWND chart = plot->GetHwnd();
     UiDriver driver;
     driver.Pump();
-    ReportPoint(context, frame.m_hWnd, *plot, "water-point", 600, 102.4 - 0.3 * 6);
-    ReportPoint(context, frame.m_hWnd, *plot, "water-target", 600, 103.2);
     ReportPoint(context, frame.m_hWnd, *plot, "menu-point", 850, 103.5);
 
     // The right-click menu, the mouse on its values item.
     MenuResponder menus;
     menus.Interact([&](const ShownPopupMenu& shown) {
-        driver.MouseMove(shown.window,
-                         MenuResponder::ItemPoint(shown.window, shown.menu, kViewValuesItem));
+        POINT item = MenuResponder::ItemPoint(shown.window, shown.menu, kViewValuesItem);
+        driver.MouseMove(shown.window, item);
+        ClientToScreen(shown.window, &item);
+        RECT frameRect;
+        GetWindowRect(frame.m_hWnd, &frameRect);
+        context.Print("at view-values %ld %ld", long(item.x - frameRect.left),
+                      long(item.y - frameRect.top));
         CaptureWithOpenMenus(context, frame.m_hWnd, "61-plot-interaction-menu");
         EndMenu();
     });
@@ -230,6 +233,9 @@ void BuildPlotInteractionPage(GalleryContext& context) {
     driver.RightClick(chart, ChartPixel(*plot, 850, 103.5));
     context.Print("dialogs shown: %d", dialogs.Count());
     plot->RedrawPlot();
+    // A point the user may drag next, and a place above it.
+    ReportPoint(context, frame.m_hWnd, *plot, "water-point", 800, 102.4 - 0.3 * 8);
+    ReportPoint(context, frame.m_hWnd, *plot, "water-target", 800, 102.5);
 }
 
 } // namespace
