@@ -16,7 +16,11 @@ public:
     enum { CHOICE_CONSTANT = 0, CHOICE_TRANSIENT = 1, CHOICE_DATASET = 2 };
 
     CGridCellFltXYCrv();
+    CGridCellFltXYCrv& operator=(const CGridCellFltXYCrv& source);
     using CGridCell::operator=;
+    // From another curve cell the choice, the three values and the options come along; from
+    // any other cell only the text, as the source's data is no address of ours.
+    CGridCellBase& operator=(const CGridCellBase& source) override;
 
     // Decides what a text means: a pick from the list, a number (which makes the cell a
     // constant), or nothing, in which case the stored constant shows again.
