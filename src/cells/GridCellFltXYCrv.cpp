@@ -57,27 +57,21 @@ CGridCellBase& CGridCellFltXYCrv::operator=(const CGridCellBase& source) {
     if (this == &source) {
         return *this;
     }
-    const auto* other = source.IsKindOf(RUNTIME_CLASS(CGridCellFltXYCrv))
-                            ? static_cast<const CGridCellFltXYCrv*>(&source)
-                            : nullptr;
-    if (other != nullptr) {
-        m_nCurveId = other->m_nCurveId;
-        m_dConstant = other->m_dConstant;
-        m_strDataSet = other->m_strDataSet;
-        m_Options.Copy(other->m_Options);
-        m_nSelection = other->m_nSelection;
-        m_bPickPending = false;
-    }
     // Another cell's data is a value or an address of its own: the copied text carries it.
     assigning = {this, source.GetData()};
     CGridCell::operator=(source);
     assigning = {};
-    if (other != nullptr) {
-        // The text went through SetText, which reads words and numbers its own way: the
-        // choice shows as it did in the source, in the source's colour.
-        const COLORREF color = other->GetTextClr();
-        SetComboSelection(m_nSelection);
-        SetTextClr(color);
+    if (source.IsKindOf(RUNTIME_CLASS(CGridCellFltXYCrv))) {
+        // The text went through SetText, which reads it by this cell's choice and rounds a
+        // constant to its text: the source's state is taken as it stands instead.
+        const auto& other = static_cast<const CGridCellFltXYCrv&>(source);
+        m_nCurveId = other.m_nCurveId;
+        m_dConstant = other.m_dConstant;
+        m_strDataSet = other.m_strDataSet;
+        m_Options.Copy(other.m_Options);
+        m_nSelection = other.m_nSelection;
+        m_text = other.m_text;
+        SetTextClr(other.GetTextClr());
     }
     return *this;
 }

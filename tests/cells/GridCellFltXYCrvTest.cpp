@@ -297,7 +297,9 @@ TEST_F(GridCellFltXYCrvTest, SelectionsOutsideTheOptionsAndDataForMissingWordsAr
 
 TEST_F(GridCellFltXYCrvTest, ACopiedCellKeepsItsChoiceAndValuesAndAPlainCellGivesOnlyItsText) {
     constexpr int kCurve = 11;
-    TypeInto(kRow, kCurveColumn, "6.5");
+    // A constant that its text only approximates.
+    const double third = 1.0 / 3.0;
+    Cell(kRow)->SetData(reinterpret_cast<LPARAM>(&third));
     Cell(kRow)->SetComboSelection(CGridCellFltXYCrv::CHOICE_TRANSIENT);
     int curve = kCurve;
     Cell(kRow)->SetData(reinterpret_cast<LPARAM>(&curve));
@@ -308,7 +310,7 @@ TEST_F(GridCellFltXYCrvTest, ACopiedCellKeepsItsChoiceAndValuesAndAPlainCellGive
     EXPECT_EQ(Text(kOtherRow), kTransientWord);
     EXPECT_EQ(Cell(kOtherRow)->GetTextClr(), kBlue);
     Cell(kOtherRow)->SetComboSelection(CGridCellFltXYCrv::CHOICE_CONSTANT);
-    EXPECT_EQ(Constant(kOtherRow), 6.5);
+    EXPECT_EQ(Constant(kOtherRow), third);
 
     // A plain cell's data is a value, never read as an address.
     grid.SetItemText(kRow, kCurveColumn + 1, "9.75");
