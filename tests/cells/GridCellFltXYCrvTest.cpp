@@ -24,6 +24,7 @@ constexpr const char* kDataSetWord = "<data set>";
 constexpr COLORREF kBlack = 0;
 constexpr COLORREF kBlue = 0xFF0000;
 constexpr int kEditorGap = 4;
+constexpr int kBlueMargin = 64;
 
 class GridCellFltXYCrvTest : public CellGrid {
 protected:
@@ -79,6 +80,17 @@ protected:
             }
         }
         return codes;
+    }
+    // The pixels of `area` of the grid whose colour is nearer blue than grey.
+    int BluePixels(const CRect& area) {
+        int count = 0;
+        for (int y = area.top; y < area.bottom; y++) {
+            for (int x = area.left; x < area.right; x++) {
+                const COLORREF color = ui.Pixel(Grid(), CPoint(x, y));
+                count += GetBValue(color) > GetRValue(color) + kBlueMargin ? 1 : 0;
+            }
+        }
+        return count;
     }
     void ExpectNoEditorLeft(int row) {
         EXPECT_EQ(Editor(), nullptr);
@@ -334,6 +346,12 @@ TEST_F(GridCellFltXYCrvTest, TheStripShowsAButtonOverAnArrowWithTheLabelGreyForA
     EXPECT_EQ(ui.Pixel(Grid(), CPoint(top.left + 2, top.top + 2)), face);
     EXPECT_EQ(ui.Pixel(Grid(), CPoint(bottom.left + 2, bottom.bottom - 3)), face);
     EXPECT_EQ(ui.Pixel(Grid(), CPoint(top.left - 3, top.top + 2)), window);
+
+    // The "..." label takes the cell's blue text colour only when the choice is a curve.
+    EXPECT_EQ(BluePixels(top), 0);
+    Cell(kRow)->SetComboSelection(CGridCellFltXYCrv::CHOICE_TRANSIENT);
+    grid.Invalidate();
+    EXPECT_GT(BluePixels(top), 0);
 
     // A cell narrower than the strip's limit shows none of it, and the geometry shrinks.
     constexpr int kNarrow = 8;
