@@ -27,9 +27,9 @@ constexpr int kEditorGap = 4;
 constexpr int kFormatWidth = 15;
 constexpr const char* kButtonLabel = "...";
 
-// The data slot of an XY cell being copied: while it is set, SetData of that value on that
-// cell is the copy's and is skipped, as the address belongs to another cell or means another
-// type. Single-threaded by design.
+// The curve cell being copied into and its source's data: while they are set, SetData of that
+// value on that cell is the copy's and is skipped, as the value belongs to another cell and may
+// be no address at all. Single-threaded by design.
 struct Assignment {
     const CGridCellFltXYCrv* cell = nullptr;
     LPARAM sourceData = 0;
