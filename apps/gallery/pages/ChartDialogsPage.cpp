@@ -62,6 +62,17 @@ void FillChart(HWND chart) {
     ChartRedraw(chart);
 }
 
+// Prints where a control's centre lies from its window's top-left corner, as "at <name> <x>
+// <y>", for the scripts that click it with real X events.
+void ReportCentre(GalleryContext& context, HWND window, int id, const char* name) {
+    RECT frame, control;
+    GetWindowRect(window, &frame);
+    if (!GetWindowRect(GetDlgItem(window, id), &control))
+        return;
+    context.Print("at %s %ld %ld", name, long((control.left + control.right) / 2 - frame.left),
+                  long((control.top + control.bottom) / 2 - frame.top));
+}
+
 // A dialog holding a chart and the three buttons that open the chart's dialogs.
 class ChartHost : public CDialog {
 public:
@@ -104,6 +115,9 @@ void BuildChartDialogsPage(GalleryContext& context) {
         return;
     }
     host.SetWindowPos(nullptr, 60, 60, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    ReportCentre(context, host.m_hWnd, kCustomizeId, "customize-button");
+    ReportCentre(context, host.m_hWnd, kExportId, "export-button");
+    ReportCentre(context, host.m_hWnd, kMaximizeId, "maximise-button");
 
     ModalResponder responder;
     responder.Next()
@@ -116,6 +130,9 @@ void BuildChartDialogsPage(GalleryContext& context) {
         .Choose(chartdlg::IDC_LEGEND_PLACE, "Right")
         .Run([&context](CDialog& dialog, UiDriver&) {
             context.Capture(dialog.m_hWnd, "62-chart-dialogs-customize");
+            ReportCentre(context, dialog.m_hWnd, chartdlg::IDC_MAIN_TITLE, "customize-title");
+            ReportCentre(context, dialog.m_hWnd, chartdlg::IDC_X_GRID, "customize-x-grid");
+            ReportCentre(context, dialog.m_hWnd, IDOK, "customize-ok");
         })
         .Press(IDOK);
     const int customized = ChartCustomizeDialog(host.chart);
@@ -132,17 +149,22 @@ void BuildChartDialogsPage(GalleryContext& context) {
         .Type(chartdlg::IDC_EXPORT_FILE, exported)
         .Run([&context](CDialog& dialog, UiDriver&) {
             context.Capture(dialog.m_hWnd, "62-chart-dialogs-export");
+            ReportCentre(context, dialog.m_hWnd, chartdlg::IDC_EXPORT_FILE, "export-file");
+            ReportCentre(context, dialog.m_hWnd, IDOK, "export-ok");
         })
         .Press(IDOK);
     const int written = ChartExportDialog(host.chart);
     context.Print("export answered %d: %s.png at 800 x 500", written, exported.c_str());
 
-    responder.Next().Run([&context](CDialog& view, UiDriver&) {
-        CRect client;
-        view.GetClientRect(&client);
-        context.Print("maximised view: %d x %d client pixels", client.Width(), client.Height());
-        context.Capture(view.m_hWnd, "62-chart-dialogs-maximised");
-    });
+    // Closed as Escape would close it: on a display nobody else would.
+    responder.Next()
+        .Run([&context](CDialog& view, UiDriver&) {
+            CRect client;
+            view.GetClientRect(&client);
+            context.Print("maximised view: %d x %d client pixels", client.Width(), client.Height());
+            context.Capture(view.m_hWnd, "62-chart-dialogs-maximised");
+        })
+        .Press(IDCANCEL);
     ChartMaximize(host.chart);
 }
 
