@@ -186,6 +186,17 @@ TEST_F(ChartDialogsTest, CancelBadInputAndNobodyAnsweringChangeNothing) {
     EXPECT_EQ(ChartCustomizeDialog(nullptr), 0);
 }
 
+TEST_F(ChartDialogsTest, AChartEndedWhileItsOptionsAreOpenIsLeftAlone) {
+    NotificationRecorder recorder(parent.m_hWnd);
+    ModalResponder responder;
+    responder.Next()
+        .Type(IDC_MAIN_TITLE, "Too late")
+        .Run([this](CDialog&, UiDriver&) { ChartDestroy(chart); })
+        .Press(IDOK);
+    EXPECT_EQ(ChartCustomizeDialog(chart), 0);
+    EXPECT_TRUE(recorder.Commands(CHARTN_CUSTOMIZED).empty());
+}
+
 // The size of a PNG file as cairo reads it; 0 x 0 when it cannot.
 SIZE PngSize(const std::string& path) {
     cairo_surface_t* image = cairo_image_surface_create_from_png(path.c_str());
@@ -321,6 +332,7 @@ TEST_F(ChartDialogsTest, TheMaximisedViewShowsTheSameCurvesAndFollowsItsWindow) 
         EXPECT_EQ(chartClient, client);
         const POINT at = PixelOf(copy->m_hWnd, 4, 40);
         EXPECT_EQ(viewDriver.Pixel(copy->m_hWnd, at), kFirstColour);
+        EXPECT_FALSE(parent.IsWindowEnabled()) << "modal over the chart's window";
         looked = true;
     });
     EXPECT_EQ(ChartMaximize(chart), 1);
@@ -328,6 +340,7 @@ TEST_F(ChartDialogsTest, TheMaximisedViewShowsTheSameCurvesAndFollowsItsWindow) 
     ASSERT_EQ(responder.Count(), 1);
     EXPECT_EQ(responder.Shown()[0].title, "Before");
     EXPECT_EQ(ChartGetInt(chart, PointCount), 11) << "the chart itself is left as it was";
+    EXPECT_TRUE(parent.IsWindowEnabled());
     EXPECT_EQ(ChartMaximize(nullptr), 0);
 }
 
