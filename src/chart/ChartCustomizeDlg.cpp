@@ -1,4 +1,6 @@
-// The chart's options dialog: its template, loading a look into the controls and reading it back.
+// The chart's options dialog. Sections, in order: the lists it offers and its template;
+// loading the look into the controls (OnInitDialog, ShowAxis, ShowCurve); following the user's
+// choices (OnCommand); reading the look back on OK (ReadAxis, OnOK); the colour swatch (OnPaint).
 
 #include "chart/ChartCustomizeDlg.h"
 

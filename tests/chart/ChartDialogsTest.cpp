@@ -1,6 +1,8 @@
 // The chart's own dialogs answered as a user would: the options reaching the chart, the export
 // writing each format, and the maximised view showing the chart.
 
+#include "FakeSpoolers.h"
+
 #include "chart/ChartApi.h"
 #include "chart/ChartDialogIds.h"
 #include "chart/ChartPropertyIds.h"
@@ -275,7 +277,7 @@ std::string ClipboardBytes(const char* format) {
     return bytes;
 }
 
-TEST_F(ChartDialogsTest, ExportToTheClipboardAndRefusalsWriteNothing) {
+TEST_F(ChartDialogsTest, ExportToTheClipboardOrPrinterAndRefusalsWriteNothing) {
     ModalResponder responder;
     responder.Next()
         .Choose(IDC_EXPORT_FORMAT, "SVG drawing")
@@ -283,6 +285,15 @@ TEST_F(ChartDialogsTest, ExportToTheClipboardAndRefusalsWriteNothing) {
         .Press(IDOK);
     ASSERT_EQ(ChartExportDialog(chart), 1);
     EXPECT_NE(ClipboardBytes("image/svg+xml").find("<svg"), std::string::npos);
+
+    {
+        FakeSpoolers spoolers;
+        spoolers.Add("lp", 0);
+        responder.Next().Check(IDC_EXPORT_TO_PRINTER).Press(IDOK);
+        ASSERT_EQ(ChartExportDialog(chart), 1);
+        EXPECT_EQ(spoolers.Spooled(), "lp " + std::string(ChartLastPrintFile()) + "\n");
+        std::remove(ChartLastPrintFile());
+    }
 
     // A PDF cannot go to the clipboard: its choice is greyed.
     responder.Next()
@@ -305,7 +316,7 @@ TEST_F(ChartDialogsTest, ExportToTheClipboardAndRefusalsWriteNothing) {
         .Press(IDOK)
         .Press(IDCANCEL);
     EXPECT_EQ(ChartExportDialog(chart), 0);
-    EXPECT_EQ(responder.Count(), 5) << "the dialog and its two messages";
+    EXPECT_EQ(responder.Count(), 6) << "the dialog and its two messages";
     EXPECT_FALSE(std::filesystem::exists(path + ".png"));
     EXPECT_EQ(ChartExportDialog(chart), 0) << "nobody answering cancels";
 }
