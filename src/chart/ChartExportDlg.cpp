@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <string>
 
 using namespace chartdlg;
 
@@ -204,6 +205,5 @@ bool ChartExportDlg::ExportToFile(Format format, int* size) {
         GotoDlgCtrl(GetDlgItem(IDC_EXPORT_FILE));
         return false;
     }
-    m_writtenFile = path;
     return true;
 }

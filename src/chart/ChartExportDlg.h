@@ -6,16 +6,11 @@
 
 #include "platform/window/Dialog.h"
 
-#include <string>
-
 class ChartExportDlg : public CDialog {
 public:
     enum Format { Png, Bmp, Svg, Pdf, ChartFile };
 
     ChartExportDlg(HWND chart, CWnd* parent);
-
-    // The file last written, with the format's extension added where the name lacked it.
-    const std::string& WrittenFile() const { return m_writtenFile; }
 
 protected:
     BOOL OnInitDialog() override;
@@ -31,6 +26,5 @@ private:
     bool ExportToFile(Format format, int* size);
 
     HWND m_chart;
-    Format m_shownFormat = Png;
-    std::string m_writtenFile;
+    Format m_shownFormat = Png; // the format the file name's extension was given for
 };

@@ -170,7 +170,7 @@ TEST_F(ChartDialogsTest, CancelBadInputAndNobodyAnsweringChangeNothing) {
         .Press("Cancel");
     EXPECT_EQ(ChartCustomizeDialog(chart), 0);
     ASSERT_EQ(responder.Count(), 3);
-    EXPECT_TRUE(responder.Shown()[2].answered == false) << "the message box took its default";
+    EXPECT_FALSE(responder.Shown()[2].answered) << "the message box took its default";
     // An empty fixed range is refused as well.
     responder.Next()
         .Choose(IDC_Y_RANGE, "Fixed minimum and maximum")
@@ -259,7 +259,7 @@ TEST_F(ChartDialogsTest, ExportWritesEachFormatAtTheSizeAsked) {
     EXPECT_EQ(Text(copy, MainTitle), "Before");
     EXPECT_EQ(ChartGetArray(copy, YData, nullptr), int(22 * sizeof(double)));
     ChartDestroy(copy);
-    EXPECT_TRUE(responder.Unused() == 0);
+    EXPECT_EQ(responder.Unused(), 0);
     for (const char* extension : {".png", ".bmp", ".svg", ".pdf", ".chart"})
         std::remove((base + extension).c_str());
 }
