@@ -64,6 +64,21 @@ private:
     int* m_runs;
 };
 
+// A plot that counts the hooks the menu's commands reach.
+class CommandPlot : public RecordingPlot {
+public:
+    using RecordingPlot::RecordingPlot;
+    void RunDataOptionsDialog() override { ++dataOptions; }
+    void SaveDisplayDefaults() override { ++savedDefaults; }
+    void UpdateAnnotations() override { ++annotationUpdates; }
+    int OnExitCustomizeDialog() override { return ++customized; }
+
+    int dataOptions = 0;
+    int savedDefaults = 0;
+    int annotationUpdates = 0;
+    int customized = 0;
+};
+
 class PlotMenuTest : public PlotFixture {
 protected:
     RecordingPlot* NewPlot() {
@@ -241,6 +256,52 @@ TEST_F(PlotMenuTest, FixedMenuCommandsRunThePlotsOperations) {
     driver.RightClick(chart, where);
     ASSERT_EQ(dialogs.Count(), 2);
     EXPECT_EQ(dialogs.Shown()[1].title, "View Values");
+    EXPECT_EQ(mainWindow.menuPlot, nullptr);
+}
+
+TEST_F(PlotMenuTest, EachCommandRunsItsOperation) {
+    constexpr UINT kPlotMenu = 7303;
+    RegisterMenuResource(kPlotMenu, pmPlotMenuTemplate());
+    auto* plot = new CommandPlot(kLineChart, "Commands", nullptr, kTopLevel, 0);
+    FillLine(*plot);
+    plot->SetMainTitle("Rating curve");
+    plot->RedrawPlot();
+    plot->Menu().SetMenuID(kPlotMenu);
+    pmSetUpBasicMenus(plot->Menu(), kAllItems);
+    const HWND chart = plot->GetHwnd();
+    const POINT where = PixelOf(*plot, 8, 10);
+    const auto choose = [&](const char* title) {
+        menus.ChooseTitle(title);
+        driver.RightClick(chart, where);
+    };
+    ModalResponder dialogs;
+
+    dialogs.Next().Press(IDOK);
+    choose("Display Options...");
+    EXPECT_EQ(plot->customized, 1) << "the chart tells the plot its options changed";
+    dialogs.Next().Press(IDCANCEL);
+    choose("Export/Print...");
+    dialogs.Next().Press(IDCANCEL);
+    choose("Maximize Plot");
+    ASSERT_EQ(dialogs.Count(), 3);
+    EXPECT_EQ(dialogs.Shown()[0].title, "Customize Chart");
+    EXPECT_EQ(dialogs.Shown()[1].title, "Export Chart");
+    EXPECT_EQ(dialogs.Shown()[2].title, "Rating curve");
+
+    choose("Set As Display Defaults");
+    EXPECT_EQ(plot->savedDefaults, 1);
+    choose("Top");
+    EXPECT_EQ(plot->annotationUpdates, 1) << "the fixed menu's legend commands redraw";
+    EXPECT_TRUE(ChooseFromBuiltMenu(plot, "Bottom"));
+    EXPECT_EQ(plot->annotationUpdates, 1) << "the items' legend actions do not";
+    EXPECT_TRUE(ChooseFromBuiltMenu(plot, "Plot Data..."));
+    EXPECT_EQ(plot->dataOptions, 1);
+
+    driver.Drag(chart, PixelOf(*plot, 1, 90), PixelOf(*plot, 5, 60));
+    ASSERT_EQ(ChartGetInt(chart, Zoomed), 1);
+    choose("Frame Plot");
+    EXPECT_EQ(ChartGetInt(chart, Zoomed), 0);
+    EXPECT_EQ(plot->annotationUpdates, 2);
     EXPECT_EQ(mainWindow.menuPlot, nullptr);
 }
 
