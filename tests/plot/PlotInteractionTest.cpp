@@ -165,6 +165,22 @@ TEST_F(PlotInteractionTest, DraggingAPointMovesItAndTellsTheHooksWhereItWent) {
     EXPECT_FALSE(plot->ended.has_value());
 }
 
+TEST_F(PlotInteractionTest, ChartOnAutomaticRangesSetsTheDragNoLimit) {
+    auto* plot = NewPlot<DragPlot>();
+    plot->SetXRange(0, 0, EPlot::RangeNone);
+    plot->SetYRange(0, 0, EPlot::RangeNone);
+    plot->ClearProperty(XMinimum);
+    plot->ClearProperty(XMaximum);
+    plot->ClearProperty(YMinimum);
+    plot->ClearProperty(YMaximum);
+    plot->RedrawPlot();
+    driver.Pump();
+    driver.Drag(plot->GetHwnd(), PixelOf(*plot, 5, 50), PixelOf(*plot, 5, 70), 0, 1);
+    ASSERT_TRUE(plot->ended.has_value());
+    EXPECT_NEAR(plot->ended->current.y, 70, 1);
+    EXPECT_NEAR(DataAt(plot->GetHwnd(), YData, 5), 70, 1);
+}
+
 TEST_F(PlotInteractionTest, ADragTheHookRefusesLeavesTheDataAlone) {
     auto* plot = NewPlot<DragPlot>();
     plot->allowMove = false;
