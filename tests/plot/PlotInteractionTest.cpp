@@ -312,6 +312,14 @@ TEST_F(PlotInteractionTest, RightClickShowsTheFixedMenuAndTheChoiceReachesThePlo
     menus.Dismiss();
     driver.RightClick(chart, at);
     EXPECT_EQ(mainWindow.menuPlot, plot);
+
+    // An application that closes the plot when told of it gets no menu for the plot gone.
+    mainWindow.closePlotOnMenu = true;
+    const int plotsBefore = g_plotList.NumPlots();
+    driver.RightClick(chart, at);
+    EXPECT_FALSE(IsWindow(chart));
+    EXPECT_EQ(g_plotList.NumPlots(), plotsBefore - 1);
+    EXPECT_EQ(menus.Count(), 2);
 }
 
 } // namespace

@@ -83,11 +83,14 @@ inline POINT PixelOf(EPlot& plot, double gx, double gy) {
 class PlotApplicationFrame : public CMDIFrameWnd {
 public:
     EPlot* menuPlot = nullptr;
+    bool closePlotOnMenu = false; // as an application may, told of the plot
 
 protected:
     BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override {
         if (message == WM_PLOT_SETMENUPLOT) {
             menuPlot = reinterpret_cast<EPlot*>(lParam);
+            if (menuPlot && closePlotOnMenu)
+                g_plotList.DeletePlot(menuPlot->GetHwnd());
             return TRUE;
         }
         return CMDIFrameWnd::OnWndMsg(message, wParam, lParam, result);
