@@ -9,6 +9,8 @@
 #include "platform/testing/ModalResponder.h"
 #include "platform/window/Menu.h"
 #include "plot/DlgAxisTitles.h"
+#include "plot/PlotBar.h"
+#include "plot/PlotRealtime.h"
 #include "plot/RightMenuItems.h"
 
 #include <gmock/gmock.h>
@@ -128,6 +130,17 @@ TEST_F(PlotMenuTest, BasicMenusFollowTheMaskWithSeparatorsBetweenGroups) {
     EXPECT_EQ(menu.NumItems(), 0);
     pmSetUpBasicMenus(menu, 0);
     EXPECT_EQ(menu.NumItems(), 0);
+
+    // Bar and real-time plots come with their lists.
+    auto* bars = new EPlotBar(kLineChart, "Bars", nullptr, kTopLevel);
+    EXPECT_THAT(Titles(bars->Menu()),
+                ElementsAre("Plot Data...", "&Display Options...", "&Set As Display Defaults", "-",
+                            "&Frame Plot", "&Maximize Plot", "-", "&Export/Print..."));
+    auto* live = new EPlotRealtime(kLineChart, "Live", nullptr, kTopLevel);
+    EXPECT_THAT(Titles(live->Menu()),
+                ElementsAre("Plot Data...", "&Display Options...", "&Set As Display Defaults", "-",
+                            "&Frame Plot", "&Maximize Plot", "-", "&View Values...",
+                            "&Export/Print..."));
 }
 
 TEST_F(PlotMenuTest, BuiltMenuShowsChecksAndGreyingForThePlot) {
