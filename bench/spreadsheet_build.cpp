@@ -35,7 +35,8 @@ void SetEveryType(CSpreadSheetORVA& sheet) {
     sheet.SetColumnType(new EColTypeCOL(col++, 0xFF));
     sheet.SetColumnType(new EColTypeSYM(col++, 0xFF, 2, 3));
     sheet.SetColumnType(new EColTypeLIN(col++, 0xFF, 1, 2));
-    sheet.SetColumnType(new EColTypeFLT(col++, -1, true, 4));
+    CStringArray flowChoices{"<constant>", "<hydrograph>", "<gauge data>"};
+    sheet.SetColumnType(new EColTypeFXY(col++, &flowChoices, "0"));
 }
 
 template <typename Grid, typename Prepare>

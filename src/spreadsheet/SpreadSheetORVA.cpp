@@ -7,6 +7,7 @@
 #include "cells/GridCellCheckbox.h"
 #include "cells/GridCellCombo.h"
 #include "cells/GridCellFltCtrl.h"
+#include "cells/GridCellFltXYCrv.h"
 #include "cells/GridCellIntCtrl.h"
 #include "cells/GridCellTimeCtrl.h"
 #include "cells/GridColorCell.h"
@@ -162,6 +163,13 @@ CGridCellBase* CSpreadSheetORVA::DoCreateCell(int row, int col, EColType* type) 
     case EColTypeCOLR::KIND: {
         auto made = Retyped(*plain, std::make_unique<CGridColorCell>());
         made->SetState(made->GetState() | GV_STATE_READONLY);
+        return made.release();
+    }
+    case EColTypeFXY::KIND: {
+        auto* curve = static_cast<EColTypeFXY*>(type);
+        auto made = Retyped(*plain, std::make_unique<CGridCellFltXYCrv>());
+        made->SetOptions(curve->options);
+        made->SetText(curve->text);
         return made.release();
     }
     default:

@@ -4,6 +4,7 @@
 #include "cells/GridCellCheckbox.h"
 #include "cells/GridCellCombo.h"
 #include "cells/GridCellFltCtrl.h"
+#include "cells/GridCellFltXYCrv.h"
 #include "cells/GridCellIntCtrl.h"
 #include "cells/GridCellTimeCtrl.h"
 #include "cells/GridColorCell.h"
@@ -44,14 +45,14 @@ BOOL CSheetOwner::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
 
 SheetOnScreen::SheetOnScreen() {
     parent.CreateEx(0, AfxRegisterWndClass(0), "culverts", WS_OVERLAPPEDWINDOW,
-                    CRect(0, 0, 900, 300), nullptr, 0);
+                    CRect(0, 0, 980, 300), nullptr, 0);
     // The heading row exists before the types, so that only the body rows are born typed.
     sheet.SetColumnCount(kColumns);
     sheet.SetFixedRowCount(1);
     sheet.SetFixedColumnCount(1);
     SetTypes(sheet);
     sheet.SetRowCount(kRows);
-    sheet.Create(CRect(0, 0, 860, 240), &parent, 1);
+    sheet.Create(CRect(0, 0, 940, 240), &parent, 1);
     for (int row = 0; row < kRows; row++) {
         sheet.SetRowHeight(row, kRowHeight, FALSE);
     }
@@ -81,6 +82,11 @@ void SheetOnScreen::SetTypes(CSpreadSheetORVA& sheet) {
     sheet.SetColumnType(new EColTypeBTN(kDetails, "Details"));
     sheet.SetColumnType(new EColTypeCOLR(kColour));
     sheet.SetColumnType(new EColTypeSYM(kSymbol, RGB(0, 0, 255), 3, 2));
+    CStringArray flowChoices;
+    for (const char* choice : kFlowChoices) {
+        flowChoices.Add(choice);
+    }
+    sheet.SetColumnType(new EColTypeFXY(kFlow, &flowChoices, "1.5"));
 }
 
 CRuntimeClass* SheetOnScreen::ClassOfColumn(int col) {
@@ -99,6 +105,8 @@ CRuntimeClass* SheetOnScreen::ClassOfColumn(int col) {
         return RUNTIME_CLASS(CGridCellButton);
     case kColour:
         return RUNTIME_CLASS(CGridColorCell);
+    case kFlow:
+        return RUNTIME_CLASS(CGridCellFltXYCrv);
     default:
         return RUNTIME_CLASS(CGridCell);
     }

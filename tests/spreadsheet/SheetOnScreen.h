@@ -46,12 +46,14 @@ protected:
         kDetails,   // button
         kColour,    // colour
         kSymbol,    // the application's kind: a plain cell
+        kFlow,      // a number or a curve
         kColumns
     };
     static constexpr int kColumnWidth = 80;
     static constexpr int kRowHeight = 20;
     static constexpr int kRows = 8;
     static constexpr const char* kMaterials[] = {"Concrete", "Steel", "HDPE"};
+    static constexpr const char* kFlowChoices[] = {"<constant>", "<hydrograph>", "<gauge data>"};
 
     SheetOnScreen();
     ~SheetOnScreen() override;

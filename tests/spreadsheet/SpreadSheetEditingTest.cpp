@@ -7,6 +7,7 @@
 
 #include "cells/ColorChooserDlg.h"
 #include "cells/GridCellCheckbox.h"
+#include "cells/GridCellFltXYCrv.h"
 #include "cells/InPlaceButton.h"
 #include "grid/GridNotify.h"
 #include "platform/system/DateTime.h"
@@ -53,6 +54,16 @@ protected:
             ui.Click(Sheet(), CellCentre(row + 1, kName));
         }
         ui.Click(Sheet(), CellCentre(row, col));
+    }
+    // The dropped list of an open combo editor is the top-level window just under its field.
+    static HWND PopUpList(CComboBox& editor) {
+        CRect field;
+        editor.GetWindowRect(&field);
+        return WindowFromPoint(CPoint(field.left + 5, field.bottom + 5));
+    }
+    static CPoint PopUpRow(CComboBox& editor, int index) {
+        const int height = editor.GetItemHeight(0);
+        return CPoint(10, index * height + height / 2);
     }
     const COleDateTime* Date(int row) {
         return reinterpret_cast<const COleDateTime*>(sheet.GetItemData(row, kInspected));
@@ -106,13 +117,9 @@ TEST_F(SpreadSheetEditingTest, AnOptionIsPickedFromTheDroppedListAndAWordIsNoOpt
     ASSERT_NE(list, nullptr);
     EXPECT_TRUE(list->GetDroppedState());
     ASSERT_EQ(list->GetCount(), int(std::size(kMaterials)));
-    CRect field;
-    list->GetWindowRect(&field);
-    const HWND popUp = WindowFromPoint(CPoint(field.left + 5, field.bottom + 5));
-    const int itemHeight = list->GetItemHeight(0);
-    const CPoint steel(10, itemHeight + itemHeight / 2);
-    ui.MouseMove(popUp, steel);
-    ui.Click(popUp, steel);
+    const CPoint steel = PopUpRow(*list, 1);
+    ui.MouseMove(PopUpList(*list), steel);
+    ui.Click(PopUpList(*list), steel);
     EXPECT_EQ(OpenEditor(), nullptr);
     EXPECT_EQ(sheet.GetItemText(kRow, kMaterial), kMaterials[1]);
     EXPECT_EQ(sheet.GetItemData(kRow, kMaterial), 1);
@@ -121,6 +128,40 @@ TEST_F(SpreadSheetEditingTest, AnOptionIsPickedFromTheDroppedListAndAWordIsNoOpt
     // A list-only column takes no word of the user's own.
     sheet.SetItemText(kRow, kMaterial, "Timber");
     EXPECT_EQ(sheet.GetItemText(kRow, kMaterial), kMaterials[1]);
+}
+
+TEST_F(SpreadSheetEditingTest, AFlowIsTypedAsANumberOrPickedAsACurveWhoseButtonTellsTheOwner) {
+    auto& flow = *static_cast<CGridCellFltXYCrv*>(sheet.GetCell(kRow, kFlow));
+    const CRect cell = CellRect(kRow, kFlow);
+    TypeInto(kRow, kFlow, "2.25");
+    EXPECT_EQ(sheet.GetItemText(kRow, kFlow), "2.25");
+    EXPECT_EQ(*reinterpret_cast<const double*>(sheet.GetItemData(kRow, kFlow)), 2.25);
+
+    // The lower half of the strip opens the choices; a pick makes the cell a curve.
+    ui.Click(Sheet(), flow.GetBotRect(cell).CenterPoint());
+    auto* list = static_cast<CComboBox*>(OpenEditor());
+    ASSERT_NE(list, nullptr);
+    ASSERT_EQ(list->GetCount(), int(std::size(kFlowChoices)));
+    const CPoint hydrograph = PopUpRow(*list, 1);
+    ui.MouseMove(PopUpList(*list), hydrograph);
+    ui.Click(PopUpList(*list), hydrograph);
+    EXPECT_EQ(OpenEditor(), nullptr);
+    EXPECT_EQ(flow.GetComboSelection(), CGridCellFltXYCrv::CHOICE_TRANSIENT);
+    EXPECT_EQ(sheet.GetItemText(kRow, kFlow), kFlowChoices[1]);
+
+    // The upper half is the button that asks the owner for the curve; nothing else changes.
+    ui.Click(Sheet(), flow.GetTopRect(cell).CenterPoint());
+    const auto told = recorder->Notifications(GV_NOTIFY_CELLBUTTON);
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_EQ(told.front().row, kRow);
+    EXPECT_EQ(told.front().column, kFlow);
+    EXPECT_EQ(flow.GetComboSelection(), CGridCellFltXYCrv::CHOICE_TRANSIENT);
+    EXPECT_EQ(OpenEditor(), nullptr);
+
+    // A number typed again turns it back into a constant.
+    TypeInto(kRow, kFlow, "3");
+    EXPECT_EQ(flow.GetComboSelection(), CGridCellFltXYCrv::CHOICE_CONSTANT);
+    EXPECT_EQ(sheet.GetItemText(kRow, kFlow), "3.0");
 }
 
 TEST_F(SpreadSheetEditingTest, ADayPickedInTheCalendarBecomesTheCellsDate) {

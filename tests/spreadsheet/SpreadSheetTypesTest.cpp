@@ -7,6 +7,7 @@
 #include "cells/GridCellCheckbox.h"
 #include "cells/GridCellCombo.h"
 #include "cells/GridCellFltCtrl.h"
+#include "cells/GridCellFltXYCrv.h"
 #include "cells/GridCellIntCtrl.h"
 #include "cells/GridCellTimeCtrl.h"
 #include "cells/GridColorCell.h"
@@ -55,6 +56,14 @@ TEST_F(SpreadSheetTypesTest, CellsAreBornOfTheirColumnsClassAndHeadersStayPlain)
     EXPECT_EQ(sheet.GetItemData(2, kMaterial), -1);
     EXPECT_TRUE(sheet.SetItemText(2, kMaterial, kMaterials[1]));
     EXPECT_EQ(sheet.GetItemData(2, kMaterial), 1);
+    // The curve column took its words and its starting text at birth.
+    auto* flow = static_cast<CGridCellFltXYCrv*>(sheet.GetCell(2, kFlow));
+    EXPECT_EQ(sheet.GetItemText(2, kFlow), "1.5");
+    EXPECT_EQ(flow->GetComboSelection(), CGridCellFltXYCrv::CHOICE_CONSTANT);
+    CStringArray words;
+    flow->GetOptions(words);
+    ASSERT_EQ(words.GetSize(), int(std::size(kFlowChoices)));
+    EXPECT_EQ(words[1], kFlowChoices[1]);
     // The float column took its precision at birth.
     sheet.SetItemText(2, kDiameter, "1.5");
     EXPECT_EQ(sheet.GetItemText(2, kDiameter), "1.50");
