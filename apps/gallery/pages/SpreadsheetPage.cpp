@@ -236,36 +236,83 @@ HWND DroppedList(CWnd& editor) {
     return WindowFromPoint(CPoint(field.left + 5, field.bottom + 5));
 }
 
+// Item `index` of a dropped list, in the list's client area.
+CPoint ListItemPoint(CComboBox& editor, int index) {
+    const int height = editor.GetItemHeight(0);
+    return CPoint(10, index * height + height / 2);
+}
+
 void PickFromList(UiDriver& ui, CSpreadSheetORVA& sheet, int index) {
     auto* list = static_cast<CComboBox*>(sheet.GetWindow(GW_CHILD));
     if (list == nullptr) {
         return;
     }
-    const int height = list->GetItemHeight(0);
-    const CPoint item(10, index * height + height / 2);
+    const CPoint item = ListItemPoint(*list, index);
     const HWND dropped = DroppedList(*list);
     ui.MouseMove(dropped, item);
     ui.Click(dropped, item);
 }
 
-void PickDay(UiDriver& ui, CSpreadSheetORVA& sheet, int day) {
+// The open date editor's calendar, or null.
+CMonthCalCtrl* DroppedCalendar(CSpreadSheetORVA& sheet) {
     auto* picker = static_cast<CDateTimeCtrl*>(sheet.GetWindow(GW_CHILD));
-    CMonthCalCtrl* calendar = picker != nullptr ? picker->GetMonthCalCtrl() : nullptr;
-    if (calendar == nullptr) {
-        return;
-    }
+    return picker != nullptr ? picker->GetMonthCalCtrl() : nullptr;
+}
+
+// The point of `day` of the month that the calendar shows, in its client area.
+CPoint DayPoint(CMonthCalCtrl& calendar, int day) {
     CRect client;
-    calendar->GetClientRect(&client);
+    calendar.GetClientRect(&client);
     for (int y = client.top; y < client.bottom; y += 2) {
         for (int x = client.left; x < client.right; x += 2) {
             MCHITTESTINFO hit{sizeof(MCHITTESTINFO), {x, y}, 0, {}};
-            if (calendar->HitTest(&hit) == MCHT_CALENDARDATE && hit.st.wDay == day) {
-                ui.Click(calendar->GetSafeHwnd(), CPoint(x, y));
-                ui.PressKey(VK_RETURN);
-                return;
+            if (calendar.HitTest(&hit) == MCHT_CALENDARDATE && hit.st.wDay == day) {
+                return CPoint(x, y);
             }
         }
     }
+    return CPoint(-1, -1);
+}
+
+void PickDay(UiDriver& ui, CSpreadSheetORVA& sheet, int day) {
+    if (CMonthCalCtrl* calendar = DroppedCalendar(sheet)) {
+        ui.Click(calendar->GetSafeHwnd(), DayPoint(*calendar, day));
+        ui.PressKey(VK_RETURN);
+    }
+}
+
+// Prints where a user at the screen finds the cells, arrows, list items and calendar days of
+// the last row, as "at <name> <x> <y>" from the dialog window's corner, for the scripts that
+// drive the gallery with real input. The list and the calendar are opened to be measured and
+// closed again unchanged.
+void ReportPlaces(CulvertDialog& dialog, GalleryContext& context) {
+    CSpreadSheetORVA& sheet = dialog.sheet;
+    const int row = kRows - 1;
+    CRect frame;
+    dialog.GetWindowRect(&frame);
+    const auto report = [&](const char* name, HWND window, CPoint point) {
+        ::ClientToScreen(window, &point);
+        context.Print("at %s %d %d", name, point.x - frame.left, point.y - frame.top);
+    };
+    const HWND window = sheet.GetSafeHwnd();
+    report("diameter-cell", window, Centre(sheet, row, kDiameter));
+    CRect box;
+    sheet.GetCellRect(row, kSurveyed, &box);
+    report("surveyed-box", window, CGridCellCheckbox::BoxRect(box).CenterPoint());
+
+    UiDriver ui;
+    report("material-arrow", window, OnArrow(sheet, row, kMaterial));
+    ui.Click(window, OnArrow(sheet, row, kMaterial));
+    if (auto* list = static_cast<CComboBox*>(sheet.GetWindow(GW_CHILD))) {
+        report("material-hdpe", DroppedList(*list), ListItemPoint(*list, 2));
+        ui.PressKey(VK_ESCAPE);
+    }
+    report("inspected-arrow", window, OnArrow(sheet, row, kInspected));
+    ui.Click(window, OnArrow(sheet, row, kInspected));
+    if (CMonthCalCtrl* calendar = DroppedCalendar(sheet)) {
+        report("inspected-day-28", calendar->GetSafeHwnd(), DayPoint(*calendar, 28));
+    }
+    ui.Click(window, Centre(sheet, 1, kCulvert));
 }
 
 void TypeInto(UiDriver& ui, CSpreadSheetORVA& sheet, int row, int col, const char* text) {
@@ -352,6 +399,7 @@ void BuildSpreadsheetPage(GalleryContext& context) {
     dialog.SetWindowPos(nullptr, 0, 0, design.Width() + kGrowX, design.Height() + kGrowY,
                         SWP_NOMOVE | SWP_NOZORDER);
     context.Capture(dialog.GetSafeHwnd(), "45-spreadsheet-wide");
+    ReportPlaces(dialog, context);
 }
 
 } // namespace
