@@ -80,12 +80,9 @@ void CSpreadSheetORVA::ChangeColumnType(EColType* type) {
         return;
     }
     for (int row = m_fixedRowCount; row < m_rowCount; row++) {
-        if (GetCell(row, column) == nullptr) {
-            continue;
+        if (GetCell(row, column) != nullptr) {
+            ReplaceCell(row, column, std::unique_ptr<CGridCellBase>(CreateCell(row, column)));
         }
-        std::unique_ptr<CGridCellBase> made(CreateCell(row, column));
-        DestroyCell(row, column);
-        SetCell(row, column, std::move(made));
     }
 }
 
@@ -94,9 +91,22 @@ void CSpreadSheetORVA::ChangeCellType(int row, int col, EColType* type) {
         return;
     }
     // The record decides the column, whatever `col` says.
-    std::unique_ptr<CGridCellBase> made(DoCreateCell(row, type->column, type));
+    ReplaceCell(row, type->column,
+                std::unique_ptr<CGridCellBase>(DoCreateCell(row, type->column, type)));
+}
+
+void CSpreadSheetORVA::ReplaceCell(int row, int col, std::unique_ptr<CGridCellBase> made) {
     // Outside the grid, or in virtual mode, the new cell is not stored and goes again.
-    SetCell(row, type->column, std::move(made));
+    if (m_virtualMode || GetCell(row, col) == nullptr) {
+        return;
+    }
+    // An editor open on the old cell writes into it when it ends: it ends before the cell goes.
+    // The grid's answer to the end may change the cell, so it is looked up again.
+    if (CGridCellBase* old = GetCell(row, col); old->IsEditing()) {
+        old->EndEdit();
+    }
+    DestroyCell(row, col);
+    SetCell(row, col, std::move(made));
 }
 
 void CSpreadSheetORVA::ChangeCellType(int row, int col, boost::shared_ptr<EColType> type) {

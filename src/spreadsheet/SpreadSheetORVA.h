@@ -11,6 +11,7 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include <memory>
 #include <vector>
 
 // The commands of the right-click menu.
@@ -56,5 +57,8 @@ protected:
     bool m_bRClickToParent = false;
 
 private:
+    // Puts `made` in the place of the cell at (row, col), which goes; nothing happens where
+    // there is no cell to replace.
+    void ReplaceCell(int row, int col, std::unique_ptr<CGridCellBase> made);
     void FitHeightToRows();
 };

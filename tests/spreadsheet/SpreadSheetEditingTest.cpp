@@ -8,6 +8,7 @@
 #include "cells/ColorChooserDlg.h"
 #include "cells/GridCellCheckbox.h"
 #include "cells/GridCellFltXYCrv.h"
+#include "cells/GridCellIntCtrl.h"
 #include "cells/InPlaceButton.h"
 #include "grid/GridNotify.h"
 #include "platform/system/DateTime.h"
@@ -258,6 +259,31 @@ TEST_F(SpreadSheetEditingTest, AColourPickedInTheChooserBecomesTheBackground) {
     ui.Type("x");
     EXPECT_EQ(OpenEditor(), nullptr);
     EXPECT_EQ(Count(GV_NOTIFY_BEGINLABELEDIT), 0);
+}
+
+TEST_F(SpreadSheetEditingTest, ACellRetypedWhileItsEditorIsOpenEndsTheEditFirst) {
+    const COleDateTime start(2024, 3, 7, 0, 0, 0);
+    sheet.SetItemData(kRow, kInspected, reinterpret_cast<LPARAM>(&start));
+    ui.Click(Sheet(), OnArrow(kRow, kInspected));
+    ASSERT_NE(OpenEditor(), nullptr);
+    // The picker writes its date into the cell as it ends: the cell must still be there.
+    sheet.ChangeColumnType(new EColTypeINT(kInspected));
+    ui.Pump();
+    EXPECT_EQ(OpenEditor(), nullptr);
+    EXPECT_EQ(sheet.GetCell(kRow, kInspected)->GetRuntimeClass(), RUNTIME_CLASS(CGridCellIntCtrl));
+    EXPECT_EQ(sheet.GetItemText(kRow, kInspected), "");
+
+    TypeInto(kRow, kName, "x");
+    Focus(kRow, kName);
+    ui.Type("y");
+    ASSERT_NE(OpenEditor(), nullptr);
+    EColTypeBTN button(kName, "Go");
+    sheet.ChangeCellType(kRow, kName, &button);
+    ui.Pump();
+    EXPECT_EQ(OpenEditor(), nullptr);
+    EXPECT_EQ(sheet.GetItemText(kRow, kName), "Go");
+    ui.Click(Sheet(), CellCentre(kRow + 1, kBarrels));
+    EXPECT_EQ(sheet.GetItemText(kRow, kName), "Go");
 }
 
 TEST_F(SpreadSheetEditingTest, APastedBlockGoesThroughEachColumnsCell) {
