@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # The typed spreadsheet on a real X display, driven by real X events: in the gallery's culvert
 # table it types a number into a diameter, picks a material from the dropped list, picks a day
-# in an inspection date's calendar and ticks a "surveyed" box, saving a screenshot after each
-# step. It checks each change twice: in what the application heard, which the gallery prints,
+# in an inspection date's calendar, ticks a "surveyed" box and presses a "Details" button,
+# saving a screenshot after each step. It checks each change twice: in what the application heard, which the gallery prints,
 # and in the pixels of the cell.
 #
 # usage: scripts/xvfb/spreadsheet.sh <screenshot folder> [gallery binary]
@@ -72,5 +72,14 @@ shot 07-box-ticked
 verdict "$(heard "C-6 surveyed: yes.")" "the box is ticked and the application told"
 n=$(pixels_changed 06-date-picked 07-box-ticked "$(region "$bx" "$by" 12 12)")
 verdict $((n > 5)) "the box shows its tick ($n pixels changed)"
+
+read -r px py < <(place details-button)
+xdotool mousemove "$px" "$py" sleep 0.3 mousedown 1 sleep 0.3
+shot 08-button-down
+xdotool mouseup 1
+sleep 0.5
+verdict "$(heard "Details of C-5 asked for.")" "the button press reaches the application"
+n=$(pixels_changed 07-box-ticked 08-button-down "$(region "$px" "$py" 40 14)")
+verdict $((n > 10)) "the button shows pressed while the mouse is down ($n pixels changed)"
 
 finish

@@ -296,6 +296,7 @@ void ReportPlaces(CulvertDialog& dialog, GalleryContext& context) {
     };
     const HWND window = sheet.GetSafeHwnd();
     report("diameter-cell", window, Centre(sheet, row, kDiameter));
+    report("details-button", window, Centre(sheet, row - 1, kDetails));
     CRect box;
     sheet.GetCellRect(row, kSurveyed, &box);
     report("surveyed-box", window, CGridCellCheckbox::BoxRect(box).CenterPoint());
