@@ -1,5 +1,7 @@
 // The typed spreadsheet: its list of column types, the cell factory that reads it, the space
 // key on check boxes and buttons, the right-click menu and the fitting to a placeholder window.
+//
+// Sections: the list of column types; the cell factory; the user; the placeholder window.
 
 #include "spreadsheet/SpreadSheetORVA.h"
 

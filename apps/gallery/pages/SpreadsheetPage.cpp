@@ -6,6 +6,9 @@
 // kind. A scripted user edits one cell of each kind; the dialog is captured at its design size
 // and larger. In a window every editor opens and works, and the status line says what the
 // application heard.
+//
+// Sections: the dialog's template; the dialog, as the application writes it; the user's hand
+// (where cells, arrows, list items and days are); the scripted edits; the page.
 
 #include "GalleryPage.h"
 
@@ -64,6 +67,8 @@ const int kWidths[kColumns] = {24, 56, 62, 64, 64, 60, 52, 116, 84, 76, 46, 56, 
 const char* const kMaterials[] = {"Concrete", "Corrugated steel", "HDPE", "Masonry"};
 const char* const kFlowChoices[] = {"<constant>", "<hydrograph>", "<gauge data>"};
 
+// ---- The dialog's template ---------------------------------------------------------------------
+
 void RegisterCulvertTemplate() {
     DialogTemplate dialog{"Culverts of reach 3", {640, 150}, {}};
     dialog.style |= WS_THICKFRAME;
@@ -83,6 +88,8 @@ void RegisterCulvertTemplate() {
     };
     RegisterDialogTemplate(kCulvertDialog, std::move(dialog));
 }
+
+// ---- The dialog, as the application writes it --------------------------------------------------
 
 class CulvertDialog : public CDialogORVA {
 public:
@@ -214,6 +221,8 @@ private:
     }
 };
 
+// ---- The user's hand ---------------------------------------------------------------------------
+
 // Where the user clicks a cell, scrolled into view first.
 CPoint Centre(CSpreadSheetORVA& sheet, int row, int col) {
     sheet.EnsureVisible(row, col);
@@ -316,6 +325,8 @@ void ReportPlaces(CulvertDialog& dialog, GalleryContext& context) {
     ui.Click(window, Centre(sheet, 1, kCulvert));
 }
 
+// ---- The scripted edits ------------------------------------------------------------------------
+
 void TypeInto(UiDriver& ui, CSpreadSheetORVA& sheet, int row, int col, const char* text) {
     ui.Click(sheet.GetSafeHwnd(), Centre(sheet, row, col));
     ui.Type(text);
@@ -377,6 +388,8 @@ void PlayTheUser(CulvertDialog& dialog, GalleryContext& context) {
                   dialog.status.c_str());
     ui.Click(window, Centre(sheet, 1, kCulvert));
 }
+
+// ---- The page ----------------------------------------------------------------------------------
 
 void BuildSpreadsheetPage(GalleryContext& context) {
     RegisterCulvertTemplate();
