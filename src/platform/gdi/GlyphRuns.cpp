@@ -54,9 +54,8 @@ bool GlyphRuns::AddRun(PangoFont* font, int x, int baseline, const PangoGlyphStr
         if (glyph.glyph & PANGO_GLYPH_UNKNOWN_FLAG)
             return false;
         if (glyph.glyph != PANGO_GLYPH_EMPTY)
-            m_glyphs.push_back({glyph.glyph,
-                                double(position + glyph.geometry.x_offset) / PANGO_SCALE,
-                                glyph.geometry.y_offset});
+            m_glyphs.push_back(
+                {glyph.glyph, position + glyph.geometry.x_offset, glyph.geometry.y_offset});
         position += glyph.geometry.width;
     }
     m_runs.back().glyphCount = m_glyphs.size() - m_runs.back().firstGlyph;
@@ -123,20 +122,21 @@ int GlyphRuns::ShapePlainLine(PangoContext* context, PangoAttrList* font, std::s
 }
 
 void GlyphRuns::Show(cairo_t* cr, double x, double y) const {
+    static std::vector<cairo_glyph_t> placed; // reused by every run shown; single-threaded
     for (const Run& run : m_runs) {
         // The same sums in the same order as Pango's renderer, for the same pixels.
         const double baseX = x + double(run.x) / PANGO_SCALE;
         const double baseY = y + double(run.baseline) / PANGO_SCALE;
-        m_placed.clear();
+        placed.clear();
         for (size_t i = run.firstGlyph; i < run.firstGlyph + run.glyphCount; ++i) {
             const Glyph& glyph = m_glyphs[i];
-            m_placed.push_back(
-                {glyph.index, baseX + glyph.x,
+            placed.push_back(
+                {glyph.index, baseX + double(glyph.x) / PANGO_SCALE,
                  glyph.yOffset == 0 ? baseY : baseY + double(glyph.yOffset) / PANGO_SCALE});
         }
         cairo_save(cr);
         cairo_set_scaled_font(cr, run.font);
-        cairo_show_glyphs(cr, m_placed.data(), int(m_placed.size()));
+        cairo_show_glyphs(cr, placed.data(), int(placed.size()));
         cairo_restore(cr);
     }
 }

@@ -5,6 +5,7 @@
 
 #include "platform/gdi/GdiInternal.h"
 
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -42,13 +43,11 @@ private:
         size_t firstGlyph, glyphCount;
     };
     struct Glyph {
-        unsigned long index;
-        double x;    // pixels from the run's start
-        int yOffset; // Pango units
+        std::uint32_t index;
+        std::int32_t x, yOffset; // Pango units, from the run's start and its baseline
     };
     std::vector<Run> m_runs;
     std::vector<Glyph> m_glyphs;
-    mutable std::vector<cairo_glyph_t> m_placed; // reused by Show
 };
 
 } // namespace gdi
