@@ -1,36 +1,9 @@
-// Glyph runs of one line: taken from a laid-out Pango layout, or shaped straight from the text
-// when it is a plain left-to-right line, and shown with Cairo as Pango's renderer shows them.
+// Glyph runs of one line, taken from a laid-out Pango layout or built run by run, and shown with
+// Cairo as Pango's renderer shows them.
 
 #include "platform/gdi/GlyphRuns.h"
 
-#include <algorithm>
-#include <climits>
-
 namespace gdi {
-
-namespace {
-
-// True when a layout would do nothing with the text beyond itemizing and shaping it on one line:
-// no controls (line ends, tabs), no next-line, line or paragraph separator.
-bool PlainLine(std::string_view text) {
-    for (size_t i = 0; i < text.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        if (byte < 0x20 || byte == 0x7F)
-            return false;
-        const std::string_view rest = text.substr(i);
-        if (byte == 0xC2 && rest.starts_with("\xC2\x85"))
-            return false;
-        if (byte == 0xE2 && (rest.starts_with("\xE2\x80\xA8") || rest.starts_with("\xE2\x80\xA9")))
-            return false;
-    }
-    return !text.empty();
-}
-
-void FreeItems(GList* items) {
-    g_list_free_full(items, reinterpret_cast<GDestroyNotify>(pango_item_free));
-}
-
-} // namespace
 
 GlyphRuns::~GlyphRuns() {
     Clear();
@@ -43,11 +16,11 @@ void GlyphRuns::Clear() {
     m_glyphs.clear();
 }
 
-bool GlyphRuns::AddRun(PangoFont* font, int x, int baseline, const PangoGlyphString* glyphs) {
+bool GlyphRuns::AddRun(PangoFont* font, int x, const PangoGlyphString* glyphs) {
     cairo_scaled_font_t* scaled = pango_cairo_font_get_scaled_font(PANGO_CAIRO_FONT(font));
     if (scaled == nullptr || cairo_scaled_font_status(scaled) != CAIRO_STATUS_SUCCESS)
         return false;
-    m_runs.push_back({cairo_scaled_font_reference(scaled), x, baseline, m_glyphs.size(), 0});
+    m_runs.push_back({cairo_scaled_font_reference(scaled), x, 0, m_glyphs.size(), 0});
     int position = 0;
     for (int i = 0; i < glyphs->num_glyphs; ++i) {
         const PangoGlyphInfo& glyph = glyphs->glyphs[i];
@@ -74,8 +47,9 @@ bool GlyphRuns::Take(PangoLayout* layout) {
             continue;
         PangoRectangle logical;
         pango_layout_iter_get_run_extents(iter, nullptr, &logical);
-        ok = AddRun(run->item->analysis.font, logical.x, pango_layout_iter_get_baseline(iter),
-                    run->glyphs);
+        ok = AddRun(run->item->analysis.font, logical.x, run->glyphs);
+        if (ok)
+            m_runs.back().baseline = pango_layout_iter_get_baseline(iter);
     } while (ok && pango_layout_iter_next_run(iter));
     pango_layout_iter_free(iter);
     if (!ok)
@@ -83,42 +57,9 @@ bool GlyphRuns::Take(PangoLayout* layout) {
     return ok;
 }
 
-// A layout puts a lone line's runs side by side in their logical widths, in this order when
-// every item is left to right at the base level, and its baseline below the top by the highest
-// logical ascent of the runs.
-int GlyphRuns::ShapePlainLine(PangoContext* context, PangoAttrList* font, std::string_view text,
-                              PangoGlyphString* scratch) {
-    Clear();
-    if (!PlainLine(text))
-        return -1;
-    const int length = int(text.size());
-    GList* items = pango_itemize(context, text.data(), 0, length, font, nullptr);
-    const auto flags = pango_context_get_round_glyph_positions(context)
-                           ? PANGO_SHAPE_ROUND_POSITIONS
-                           : PANGO_SHAPE_NONE;
-    int x = 0;
-    int top = INT_MAX;
-    bool ok = true;
-    for (GList* link = items; link != nullptr && ok; link = link->next) {
-        PangoItem* item = static_cast<PangoItem*>(link->data);
-        ok = item->analysis.level == 0;
-        if (!ok)
-            break;
-        pango_shape_item(item, text.data(), length, nullptr, scratch, flags);
-        PangoRectangle logical;
-        pango_glyph_string_extents(scratch, item->analysis.font, nullptr, &logical);
-        top = std::min(top, logical.y);
-        ok = AddRun(item->analysis.font, x, 0, scratch);
-        x += logical.width;
-    }
-    FreeItems(items);
-    if (!ok || m_runs.empty()) {
-        Clear();
-        return -1;
-    }
+void GlyphRuns::SetBaseline(int baseline) {
     for (Run& run : m_runs)
-        run.baseline = -top;
-    return PANGO_PIXELS(x);
+        run.baseline = baseline;
 }
 
 void GlyphRuns::Show(cairo_t* cr, double x, double y) const {

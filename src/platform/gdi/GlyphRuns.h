@@ -21,22 +21,17 @@ public:
     // False, and no runs, for what only Pango draws: several lines, lines along the text,
     // glyphs missing from every font.
     bool Take(PangoLayout* layout);
-    // Shapes a plain left-to-right line without a layout: Pango's itemizer and shaper alone,
-    // with the same placing, spare the layout's line breaking and bookkeeping, which cost about
-    // as much again. `font` holds the font's description as the one attribute; `scratch` is
-    // any glyph string, reused between calls. Answers the logical width in pixels, or -1 and no
-    // runs for what needs the layout: control characters (tabs go to tab stops), line and
-    // paragraph separators, right-to-left or embedded text, glyphs missing from every font.
-    int ShapePlainLine(PangoContext* context, PangoAttrList* font, std::string_view text,
-                       PangoGlyphString* scratch);
     // Shows the glyphs as pango_cairo_show_layout would with the current point at (x, y).
     void Show(cairo_t* cr, double x, double y) const;
 
-private:
+    // Building the runs of a line shaped without a layout, left to right.
     void Clear();
-    // False for a font Cairo cannot draw with or a glyph no font has.
-    bool AddRun(PangoFont* font, int x, int baseline, const PangoGlyphString* glyphs);
+    // False for a font Cairo cannot draw with or a glyph no font has; then Clear.
+    bool AddRun(PangoFont* font, int x, const PangoGlyphString* glyphs);
+    // Of every run, in Pango units below the line's top.
+    void SetBaseline(int baseline);
 
+private:
     struct Run {
         cairo_scaled_font_t* font; // a reference of our own: the layout may be laid out anew
         int x, baseline;           // Pango units from the layout's origin

@@ -35,15 +35,13 @@ std::uint32_t TextLayoutCache::FontNumber(const FontObject* font) {
     if (m_fonts.size() == kMostFonts)
         Clear();
     KnownFont known{std::move(identity), nullptr};
-    if (!font->log.lfUnderline && !font->log.lfStrikeOut) {
-        known.plainLine.reset(pango_attr_list_new());
-        pango_attr_list_insert(known.plainLine.get(), pango_attr_font_desc_new(description));
-    }
+    if (!font->log.lfUnderline && !font->log.lfStrikeOut)
+        known.plainLine = std::make_unique<PlainLineFont>(description);
     m_fonts.push_back(std::move(known));
     return std::uint32_t(m_fonts.size() - 1);
 }
 
-PangoAttrList* TextLayoutCache::MakeKey(const FontObject* font, std::string_view text) {
+PlainLineFont* TextLayoutCache::MakeKey(const FontObject* font, std::string_view text) {
     const std::uint32_t number = FontNumber(font);
     m_key.assign(reinterpret_cast<const char*>(&number), sizeof number);
     m_key.append(text);
@@ -134,13 +132,13 @@ int LogicalWidth(PangoLayout* layout) {
 
 } // namespace
 
-void TextLayoutCache::ShapeNew(Entry& entry, FontObject* font, PangoAttrList* plainLine,
+void TextLayoutCache::ShapeNew(Entry& entry, FontObject* font, PlainLineFont* plainLine,
                                std::string_view text) {
     PangoContext* context = pango_layout_get_context(SharedLayout());
     if (plainLine != nullptr) {
         if (m_glyphs == nullptr)
             m_glyphs.reset(pango_glyph_string_new());
-        const int width = entry.runs.ShapePlainLine(context, plainLine, text, m_glyphs.get());
+        const int width = ShapePlainLine(context, *plainLine, text, m_glyphs.get(), entry.runs);
         if (width >= 0) {
             entry.shaped = {nullptr, width, &entry.runs};
             return;
@@ -167,7 +165,7 @@ ShapedText TextLayoutCache::Shape(FontObject* font, std::string_view text) {
         Configure(m_uncached, font, text);
         return {m_uncached, LogicalWidth(m_uncached), nullptr};
     }
-    PangoAttrList* plainLine = MakeKey(font, text);
+    PlainLineFont* plainLine = MakeKey(font, text);
     if (m_entries == nullptr) {
         m_entries = std::make_unique<Entry[]>(kCapacity);
         m_slots = std::make_unique<Slot[]>(kSlots);

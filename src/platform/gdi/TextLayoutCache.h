@@ -8,6 +8,7 @@
 
 #include "platform/gdi/GdiInternal.h"
 #include "platform/gdi/GlyphRuns.h"
+#include "platform/gdi/PlainLine.h"
 
 #include <cstdint>
 #include <memory>
@@ -64,23 +65,19 @@ private:
         std::string family;
         bool operator==(const FontIdentity& other) const = default;
     };
-    struct AttributesUnref {
-        void operator()(PangoAttrList* list) const { pango_attr_list_unref(list); }
-    };
     struct KnownFont {
         FontIdentity identity;
-        // The description as the one attribute, for shaping a plain line without a layout;
-        // null for a font with lines along its text, which a layout draws.
-        std::unique_ptr<PangoAttrList, AttributesUnref> plainLine;
+        // Null for a font with lines along its text, which a layout draws.
+        std::unique_ptr<PlainLineFont> plainLine;
     };
     struct GlyphStringFree {
         void operator()(PangoGlyphString* glyphs) const { pango_glyph_string_free(glyphs); }
     };
     void Configure(PangoLayout* layout, FontObject* font, std::string_view text);
-    // Sets m_key, and answers the font's attributes for shaping a plain line (or null).
-    PangoAttrList* MakeKey(const FontObject* font, std::string_view text);
+    // Sets m_key, and answers the font for shaping a plain line in (or null).
+    PlainLineFont* MakeKey(const FontObject* font, std::string_view text);
     std::uint32_t FontNumber(const FontObject* font);
-    void ShapeNew(Entry& entry, FontObject* font, PangoAttrList* plainLine, std::string_view text);
+    void ShapeNew(Entry& entry, FontObject* font, PlainLineFont* plainLine, std::string_view text);
     void Clear();
 
     std::uint32_t Find(std::uint32_t hash) const; // of m_key

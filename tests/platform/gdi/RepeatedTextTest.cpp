@@ -96,32 +96,37 @@ TEST_F(RepeatedTextTest, TextDrawnAgainHasTheSamePixels) {
     }
 }
 
-// Short texts of letters, digits and punctuation as a table shows them, each new: every one
-// measures and looks as Pango lays it out.
+// Short texts as a table shows them, each new, of any printable characters or of numbers and
+// signs alone, in plain and bold italic faces: every one measures and looks as Pango lays it out.
 TEST_F(RepeatedTextTest, NewPlainTextsMatchPangoInWidthAndPixels) {
+    constexpr char kNumeric[] = "0123456789.,-+ %()";
     std::mt19937 random(16);
     std::uniform_int_distribution<int> printable(' ', '~');
+    std::uniform_int_distribution<size_t> numeric(0, sizeof kNumeric - 2);
     std::uniform_int_distribution<int> length(1, 12);
-    for (const char* face : kFaces) {
-        LOGFONT lf{};
-        lf.lfHeight = -15;
-        std::strncpy(lf.lfFaceName, face, LF_FACESIZE - 1);
-        CFont font;
-        font.CreateFontIndirect(&lf);
-        CFont* old = dc.SelectObject(&font);
-        for (int i = 0; i < 300; ++i) {
-            std::string text;
-            for (int n = length(random); n > 0; --n)
-                text += char(printable(random));
-            ASSERT_EQ(dc.GetTextExtent(text.c_str()).cx, LaidOutWidth(text.c_str()))
-                << face << " [" << text << "]";
-            dc.FillSolidRect(CRect(0, 0, kWidth, kHeight), RGB(255, 255, 255));
-            dc.TextOut(2, kTop, text.c_str());
-            DrawLaidOut(text.c_str(), kReference);
-            ASSERT_EQ(DifferingPixels(kTop, kReference), 0) << face << " [" << text << "]";
+    for (const char* face : kFaces)
+        for (const bool boldItalic : {false, true}) {
+            LOGFONT lf{};
+            lf.lfHeight = -15;
+            lf.lfWeight = boldItalic ? FW_BOLD : FW_NORMAL;
+            lf.lfItalic = boldItalic;
+            std::strncpy(lf.lfFaceName, face, LF_FACESIZE - 1);
+            CFont font;
+            font.CreateFontIndirect(&lf);
+            CFont* old = dc.SelectObject(&font);
+            for (int i = 0; i < 200; ++i) {
+                std::string text;
+                for (int n = length(random); n > 0; --n)
+                    text += i % 2 == 0 ? char(printable(random)) : kNumeric[numeric(random)];
+                ASSERT_EQ(dc.GetTextExtent(text.c_str()).cx, LaidOutWidth(text.c_str()))
+                    << face << " [" << text << "]";
+                dc.FillSolidRect(CRect(0, 0, kWidth, kHeight), RGB(255, 255, 255));
+                dc.TextOut(2, kTop, text.c_str());
+                DrawLaidOut(text.c_str(), kReference);
+                ASSERT_EQ(DifferingPixels(kTop, kReference), 0) << face << " [" << text << "]";
+            }
+            dc.SelectObject(old);
         }
-        dc.SelectObject(old);
-    }
 }
 
 // Far more texts than are kept, of widths that differ from their neighbours', measured again in
