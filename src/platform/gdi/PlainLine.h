@@ -3,7 +3,8 @@
 // Shaping a plain left-to-right line without a Pango layout. Pango's itemizer and shaper alone,
 // with the layout's placing of the runs, spare the layout's line breaking and bookkeeping, which
 // cost about as much again; and a line of printable ASCII in a font that has all of it is not
-// even itemized: it gets the item Pango gave the last such line. Private to the gdi layer.
+// even itemized: it gets the item Pango gave the last such line. What is learned stays true
+// because the process's one Pango context keeps its fixed options. Private to the gdi layer.
 
 #include "platform/gdi/GlyphRuns.h"
 
