@@ -20,15 +20,23 @@ window=$(xdotool search --sync --onlyvisible --name "Culverts of reach 3" | head
 sleep 1
 
 place() { report_point "$1" "$window"; }
-# The pointer arrives before the button goes down, as a user's hand does.
+# The pointer arrives before the button goes down, and the button stays down a moment, as a
+# user's hand does.
 click_at() {
     xdotool mousemove "$1" "$2"
     sleep 0.3
-    xdotool click 1
-    sleep 0.5
+    xdotool mousedown 1 sleep 0.15 mouseup 1
+    sleep 0.8
 }
-# Whether the application heard this line; the gallery prints each as it hears it.
-heard() { grep -qxF "spreadsheet: $1" "$out/gallery.log" && echo 1 || echo 0; }
+# Whether the application heard this line within 10 s; the gallery prints each as it hears it.
+# Waiting for it also keeps the next step from overtaking a busy display.
+heard() {
+    for _ in $(seq 50); do
+        grep -qxF "spreadsheet: $1" "$out/gallery.log" && { echo 1; return; }
+        sleep 0.2
+    done
+    echo 0
+}
 region() { echo "$3x$4+$(($1 - $3 / 2))+$(($2 - $4 / 2))"; } # around a point: x y w h
 
 shot 01-shown
@@ -74,10 +82,10 @@ n=$(pixels_changed 06-date-picked 07-box-ticked "$(region "$bx" "$by" 12 12)")
 verdict $((n > 5)) "the box shows its tick ($n pixels changed)"
 
 read -r px py < <(place details-button)
-xdotool mousemove "$px" "$py" sleep 0.3 mousedown 1 sleep 0.3
+xdotool mousemove "$px" "$py" sleep 0.3 mousedown 1 sleep 0.8
 shot 08-button-down
 xdotool mouseup 1
-sleep 0.5
+sleep 0.8
 verdict "$(heard "Details of C-5 asked for.")" "the button press reaches the application"
 n=$(pixels_changed 07-box-ticked 08-button-down "$(region "$px" "$py" 40 14)")
 verdict $((n > 10)) "the button shows pressed while the mouse is down ($n pixels changed)"
