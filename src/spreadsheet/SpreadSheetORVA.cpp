@@ -61,6 +61,10 @@ void CSpreadSheetORVA::ChangeColumnType(EColType* type) {
                      [column](const OwnedColType& held) { return held->column == column; });
     // A removal token lives only for the rebuild below.
     OwnedColType token;
+    // A record handed in again is held twice now: the entry lets go of it.
+    if (entry != m_ppColTypes.end() && entry->get() == type) {
+        entry->release();
+    }
     if (type->kind == EColType::KIND_NONE) {
         if (entry == m_ppColTypes.end()) {
             return;
@@ -68,12 +72,7 @@ void CSpreadSheetORVA::ChangeColumnType(EColType* type) {
         m_ppColTypes.erase(entry);
         token = std::move(incoming);
     } else if (entry != m_ppColTypes.end()) {
-        // The record handed in again is already ours.
-        if (entry->get() == type) {
-            incoming.release();
-        } else {
-            *entry = std::move(incoming);
-        }
+        *entry = std::move(incoming);
     } else {
         m_ppColTypes.push_back(std::move(incoming));
     }

@@ -112,6 +112,11 @@ TEST_F(SpreadSheetTypesTest, AChangeOfAColumnsTypeRebuildsItsCellsEmptyAndKeepsO
     sheet.ChangeColumnType(newer);
     EXPECT_EQ(sheet.GetColType(kBarrels), newer);
     ExpectColumnOf(kBarrels, RUNTIME_CLASS(CGridCellCombo));
+    // And turned into a removal token by a derived spreadsheet, it takes the type away.
+    newer->kind = EColType::KIND_NONE;
+    sheet.ChangeColumnType(newer);
+    EXPECT_EQ(sheet.GetColType(kBarrels), nullptr);
+    ExpectColumnOf(kBarrels, RUNTIME_CLASS(CGridCell));
 }
 
 TEST_F(SpreadSheetTypesTest, TheRemovalTokenTurnsATypedColumnPlainAndLeavesAnUntypedOneAlone) {
