@@ -1,9 +1,10 @@
 // The "MDIClient" window: it holds a frame's document windows, knows the active one and whether
-// they are maximised, places new ones in a cascade, and arranges them. The default procedures
-// of the frame and of the document windows lead here.
+// they are maximised, places new ones in a cascade, and arranges them. While one is maximised
+// the frame's caption names it. The default procedures of the frame and of the document windows
+// lead here.
 //
-// Sections: the client's state; placing; activation, maximising and restoring; the client's
-// procedure; DefMDIChildProc and DefFrameProc.
+// Sections: the client's state; placing; activation, maximising and restoring; the frame's
+// caption; the client's procedure; DefMDIChildProc and DefFrameProc.
 
 #include "platform/window/MdiFrame.h"
 #include "platform/window/MdiState.h"
@@ -15,6 +16,8 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <optional>
+#include <string>
 
 namespace wm {
 namespace {
@@ -26,6 +29,8 @@ struct ClientState {
     bool maximized = false;
     int nextCascade = 0;
     std::map<HWND, CRect> restoreRects; // where each maximised child goes back to
+    // The frame's own title while its caption also names the maximised document.
+    std::optional<std::string> frameTitle;
 };
 
 // The MDI clients of the one user-interface thread.
@@ -189,9 +194,45 @@ void Tile(HWND client) {
     }
 }
 
+// ---- The frame's caption ----
+
+HWND MaximizedChild(const ClientState& state) {
+    const WindowRecord* active = state.maximized ? Find(state.active) : nullptr;
+    return active && (active->style & WS_MAXIMIZE) ? state.active : nullptr;
+}
+
+// Sets the frame's text without passing through its procedure, which would take it for a new
+// title of its own.
+void SetFrameText(HWND frame, const std::string& text) {
+    DefWindowProc(frame, WM_SETTEXT, 0, LPARAM(text.c_str()));
+}
+
+// The frame reads "Frame - [Document]" while a document is maximised, and its own title again
+// when none is. The bar's controls come and go with it.
+void FollowMaximizedChild(HWND client) {
+    ClientState* state = StateOf(client);
+    const HWND frame = GetParent(client);
+    WindowRecord* frameRecord = Find(frame);
+    if (!state || !frameRecord)
+        return;
+    const HWND child = MaximizedChild(*state);
+    if (child) {
+        if (!state->frameTitle)
+            state->frameTitle = frameRecord->text;
+        const WindowRecord* childRecord = Find(child);
+        SetFrameText(frame, *state->frameTitle + " - [" + childRecord->text + "]");
+    } else if (state->frameTitle) {
+        const std::string title = std::move(*state->frameTitle);
+        state->frameTitle.reset();
+        SetFrameText(frame, title);
+    }
+    if ((frameRecord = Find(frame)))
+        InvalidateFrame(*frameRecord);
+}
+
 // ---- The client's procedure ----
 
-LRESULT MdiClientProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT HandleClientMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_NCCREATE:
         Clients()[hwnd] = ClientState{};
@@ -268,6 +309,14 @@ LRESULT MdiClientProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
+LRESULT MdiClientProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT result = HandleClientMessage(hwnd, message, wParam, lParam);
+    // Each MDI message may have changed which document is maximised; the client may be gone.
+    if (message >= WM_MDICREATE && message <= WM_MDICASCADE && IsWindow(hwnd))
+        FollowMaximizedChild(hwnd);
+    return result;
+}
+
 } // namespace
 
 const char* const kMdiClientClass = "MDIClient";
@@ -313,6 +362,7 @@ void AdoptChild(HWND client, HWND child) {
     Activate(client, child);
     if (ClientState* state = StateOf(client); state && maximize && IsWindow(child))
         Maximize(client, *state, child);
+    FollowMaximizedChild(client);
 }
 
 void ChildGoing(HWND client, HWND child) {
@@ -326,13 +376,24 @@ void ChildGoing(HWND client, HWND child) {
     state->active = nullptr;
     std::vector<HWND> rest = Children(client);
     std::erase(rest, child);
-    if (rest.empty()) {
+    if (!rest.empty()) {
+        Activate(client, rest.front());
+        if ((state = StateOf(client)) && maximized && state->active)
+            Maximize(client, *state, state->active);
+    } else {
         state->maximized = false;
-        return;
     }
-    Activate(client, rest.front());
-    if ((state = StateOf(client)) && maximized && state->active)
-        Maximize(client, *state, state->active);
+    FollowMaximizedChild(client);
+}
+
+HWND MaximizedMdiChild(HWND frame) {
+    const WindowRecord* w = Find(frame);
+    if (!w)
+        return nullptr;
+    for (HWND child : w->children)
+        if (const ClientState* state = StateOf(child))
+            return MaximizedChild(*state);
+    return nullptr;
 }
 
 HWND ActiveMdiChild(HWND client) {
@@ -351,12 +412,22 @@ LRESULT DefMDIChildProc(HWND child, UINT message, WPARAM wParam, LPARAM lParam) 
     switch (message) {
     case WM_MOUSEACTIVATE:
         // A click anywhere in a document window makes it the active one.
-        if (ActiveMdiChild(client) != child)
+        if (ActiveMdiChild(client) != child) {
             Activate(client, child);
+            FollowMaximizedChild(client);
+        }
         break;
     case WM_CHILDACTIVATE:
         Activate(client, child);
+        FollowMaximizedChild(client);
         return 0;
+    case WM_SETTEXT: {
+        // The frame's caption shows the maximised document's new title.
+        const LRESULT result = DefWindowProc(child, message, wParam, lParam);
+        if (IsWindow(client))
+            FollowMaximizedChild(client);
+        return result;
+    }
     case WM_DESTROY:
         ChildGoing(client, child);
         break;
@@ -375,8 +446,6 @@ LRESULT DefMDIChildProc(HWND child, UINT message, WPARAM wParam, LPARAM lParam) 
             break;
         }
         break;
-    case WM_SETTEXT:
-    case WM_GETMINMAXINFO:
     default:
         break;
     }
@@ -405,6 +474,21 @@ LRESULT DefFrameProc(HWND frame, HWND mdiClient, UINT message, WPARAM wParam, LP
             SetFocus(active);
             return 0;
         }
+        break;
+    case WM_SETTEXT:
+        // While a document is maximised the application's title is the part before its name.
+        if (ClientState* state = StateOf(mdiClient); state && state->frameTitle) {
+            const auto* text = reinterpret_cast<const char*>(lParam);
+            state->frameTitle = text ? text : "";
+            FollowMaximizedChild(mdiClient);
+            return TRUE;
+        }
+        break;
+    case WM_NCLBUTTONDOWN:
+    case WM_NCLBUTTONDBLCLK:
+        if (wParam == HTMENU &&
+            PressMdiBarControl(frame, CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam))))
+            return 0;
         break;
     default:
         break;

@@ -1,5 +1,6 @@
 // Draws the non-client area in the classic look: the outer frame, the caption of a top-level
-// window, its menu bar, the sunken client edge, and the scroll bars.
+// window, its menu bar (with a maximised document's controls), the sunken client edge, and the
+// scroll bars.
 
 #include "platform/window/MdiState.h"
 #include "platform/window/MenuTracker.h"
@@ -15,6 +16,11 @@
 
 namespace wm {
 namespace {
+
+void DrawIcon(CDC& dc, HICON icon, const CRect& place) {
+    DrawIconEx(dc.GetSafeHdc(), place.left, place.top, icon, place.Width(), place.Height(), 0,
+               nullptr, DI_NORMAL);
+}
 
 void DrawOuterFrame(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& rect) {
     if (!m.border)
@@ -93,8 +99,8 @@ void DrawCaption(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& r
     // The small icon, or the big one made small, at the caption's left.
     if (const HICON icon = w.smallIcon ? w.smallIcon : w.bigIcon) {
         const int size = GetSystemMetrics(SM_CXSMICON);
-        DrawIconEx(dc.GetSafeHdc(), bar.left + 2, bar.top + (bar.Height() - size) / 2, icon, size,
-                   size, 0, nullptr, DI_NORMAL);
+        const int top = bar.top + (bar.Height() - size) / 2;
+        DrawIcon(dc, icon, CRect(bar.left + 2, top, bar.left + 2 + size, top + size));
         text.left = bar.left + size + 4;
     }
     const CaptionButtons buttons = GetCaptionButtons(w);
@@ -107,6 +113,35 @@ void DrawCaption(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& r
     rect.top += m.caption;
 }
 
+// A document without an icon of its own shows a page with a folded corner.
+void DrawDocumentGlyph(CDC& dc, const CRect& place) {
+    const COLORREF ink = GetSysColor(COLOR_WINDOWTEXT);
+    CRect page(place.left + 2, place.top + 1, place.right - 3, place.bottom - 1);
+    dc.FillSolidRect(&page, GetSysColor(COLOR_WINDOW));
+    dc.Draw3dRect(&page, ink, ink);
+    for (int y = page.top + 4; y < page.bottom - 2; y += 2)
+        dc.FillSolidRect(page.left + 2, y, page.Width() - 4, 1, GetSysColor(COLOR_3DSHADOW));
+}
+
+// The maximised document's icon and buttons on its frame's bar.
+void DrawMdiBarControls(const MdiBarControls& controls, CDC& dc) {
+    const WindowRecord* child = Find(controls.child);
+    if (!child)
+        return;
+    if (const HICON icon = child->smallIcon ? child->smallIcon : child->bigIcon)
+        DrawIcon(dc, icon, controls.icon);
+    else
+        DrawDocumentGlyph(dc, controls.icon);
+    const std::pair<CRect, UINT> buttons[] = {{controls.minimize, SC_MINIMIZE},
+                                              {controls.restore, SC_MAXIMIZE},
+                                              {controls.close, SC_CLOSE}};
+    for (const auto& [rect, command] : buttons) {
+        CRect face = rect;
+        dc.DrawFrameControl(&face, DFC_BUTTON, DFCS_BUTTONPUSH);
+        DrawGlyph(dc, rect, command, true);
+    }
+}
+
 void DrawMenuBar(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& rect) {
     const MenuRecord* menu = m.menuBar ? FindMenu(w.menu) : nullptr;
     if (!menu)
@@ -114,8 +149,13 @@ void DrawMenuBar(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& r
     bool open = false;
     const MenuTracker* tracker = CurrentMenuTracker();
     const int hot = tracker ? tracker->BarHotItem(w.handle, &open) : -1;
-    PaintMenuBar(dc.GetSafeHdc(), *menu,
-                 CRect(rect.left, rect.top, rect.right, rect.top + m.menuBar), hot, open);
+    const CRect bar(rect.left, rect.top, rect.right, rect.top + m.menuBar);
+    const MdiBarControls controls = GetMdiBarControls(w);
+    if (controls.child)
+        dc.FillSolidRect(&bar, GetSysColor(COLOR_MENU));
+    PaintMenuBar(dc.GetSafeHdc(), *menu, controls.child ? MenuBarItemsInWindow(w) : bar, hot, open);
+    if (controls.child)
+        DrawMdiBarControls(controls, dc);
     rect.top += m.menuBar;
 }
 
