@@ -1,8 +1,8 @@
 // The platform's standard controls in a dialog made from a template in code: static text, edits
-// (one with text selected, read-only, disabled, multi-line), push buttons, check boxes in their
-// three states, a radio group, group boxes, both kinds of combo box and a size grip, their
-// labels with underlined mnemonics. A second picture shows a combo opened from the keyboard (a
-// typed letter chose an item, F4 dropped the list), and the list itself.
+// (one with text selected, read-only, disabled, multi-line with its words wrapped), push buttons,
+// check boxes in their three states, a radio group, group boxes, both kinds of combo box and a size
+// grip, their labels with underlined mnemonics. A second picture shows a combo opened from the
+// keyboard (a typed letter chose an item, F4 dropped the list), and the list itself.
 
 #include "GalleryPage.h"
 
@@ -47,8 +47,11 @@ DialogTemplate ControlsTemplate() {
     add("Static", "S&lope:", 0xFFFF, SS_LEFT, {12, 54, 52, 64});
     add("Edit", "0.0015", kDisabledEdit, visible | WS_BORDER | WS_DISABLED | ES_RIGHT,
         {56, 52, 156, 66});
-    add("Edit", "Multi-line notes:\r\nsecond line\r\nthird line", kNotes,
-        visible | WS_BORDER | WS_VSCROLL | ES_MULTILINE | ES_WANTRETURN, {12, 72, 156, 112});
+    add("Edit",
+        "Multi-line notes: the inlet apron is cracked along its downstream edge.\r\nRecheck in "
+        "spring.",
+        kNotes, visible | WS_BORDER | WS_VSCROLL | ES_MULTILINE | ES_WANTRETURN,
+        {12, 72, 156, 112});
 
     add("Button", "Options", 0xFFFF, BS_GROUPBOX, {168, 4, 324, 118});
     add("Button", "&Checked box", kChecked, visible | BS_AUTOCHECKBOX, {176, 16, 318, 28});
