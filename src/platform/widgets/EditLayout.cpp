@@ -70,9 +70,13 @@ const std::vector<EditBehaviour::DisplayLine>& EditBehaviour::Lines() const {
     for (int line = 0; line < m_model.LineCount(); ++line) {
         int start = m_model.LineStart(line);
         const int end = start + m_model.LineLength(line);
-        while (width > 0 && start < end &&
-               measure.Width(text.c_str() + start, end - start) > width) {
-            int cut = start + FittingCount(measure, text.c_str() + start, end - start, width);
+        while (width > 0 && start < end) {
+            // No character is narrower than a pixel, so no more than `width` of them fit: a long
+            // paragraph is measured a line at a time, not to its end.
+            const int probe = std::min(end - start, width + 1);
+            if (probe == end - start && measure.Width(text.c_str() + start, probe) <= width)
+                break;
+            int cut = start + FittingCount(measure, text.c_str() + start, probe, width);
             if (IsBlank(text[size_t(cut)])) {
                 while (cut < end && IsBlank(text[size_t(cut)]))
                     ++cut; // the blanks overhang
