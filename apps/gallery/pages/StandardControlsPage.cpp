@@ -55,7 +55,7 @@ DialogTemplate ControlsTemplate() {
 
     add("Button", "Options", 0xFFFF, BS_GROUPBOX, {168, 4, 324, 118});
     add("Button", "&Checked box", kChecked, visible | BS_AUTOCHECKBOX, {176, 16, 318, 28});
-    add("Button", "U&nchecked box", kUnchecked, visible | BS_AUTOCHECKBOX, {176, 30, 318, 42});
+    add("Button", "Unchec&ked box", kUnchecked, visible | BS_AUTOCHECKBOX, {176, 30, 318, 42});
     add("Button", "T&hird state", kThird, visible | BS_AUTO3STATE, {176, 44, 318, 56});
     add("Button", "Disabled box", kDisabledCheck, visible | BS_AUTOCHECKBOX | WS_DISABLED,
         {176, 58, 318, 70});
