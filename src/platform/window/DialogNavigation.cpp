@@ -160,23 +160,25 @@ bool HandleMnemonic(HWND dialog, HWND focus, UINT ch) {
     if (ch < ' ' || key == 0)
         return false;
     const std::vector<HWND> children = ChildrenOf(dialog);
+    const size_t n = children.size();
     const HWND own = OwnControl(dialog, focus);
-    size_t start = children.size() - 1;
-    for (size_t i = 0; i < children.size(); ++i)
+    size_t start = n - 1; // without a focus control the search begins with the first
+    for (size_t i = 0; i < n; ++i)
         if (children[i] == own)
             start = i;
-    std::vector<HWND> matches;
-    FindAround(children, start, false, [&](HWND h) {
-        const UINT code = DlgCode(h, nullptr);
-        if (CanTakeFocus(h) && HasMnemonics(h, code) && MnemonicOf(h) == key)
-            matches.push_back(h);
+    HWND first = nullptr;
+    int matches = 0;
+    for (size_t step = 1; step <= n; ++step) {
+        const HWND h = children[(start + step) % n];
+        if (CanTakeFocus(h) && HasMnemonics(h, DlgCode(h, nullptr)) && MnemonicOf(h) == key) {
+            first = first ? first : h;
+            ++matches;
+        }
+    }
+    if (!first)
         return false;
-    });
-    if (matches.empty())
-        return false;
-    const HWND first = matches.front();
     const UINT code = DlgCode(first, nullptr);
-    if (matches.size() == 1 || (code & DLGC_STATIC))
+    if (matches == 1 || (code & DLGC_STATIC))
         ActivateByMnemonic(dialog, first, code);
     else
         SendMessage(dialog, WM_NEXTDLGCTL, WPARAM(first), TRUE);

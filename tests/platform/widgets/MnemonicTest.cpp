@@ -62,9 +62,9 @@ protected:
         WidgetTest::TearDown();
     }
 
-    void AltPress(char letter) {
+    void AltPress(UINT key) {
         ui.KeyDown(VK_MENU);
-        ui.PressKey(UINT(letter));
+        ui.PressKey(key);
         ui.KeyUp(VK_MENU);
     }
     std::vector<int> Clicked() const {
@@ -159,6 +159,38 @@ TEST_F(MnemonicTest, TheMnemonicLetterIsUnderlinedInPlaceOfItsMark) {
     EXPECT_EQ(marked.left, plain.left); // the mark takes no room
     EXPECT_GT(marked.amount, plain.amount);
     EXPECT_LT(literal.left, plain.left); // "&&" shows an ampersand
+}
+
+TEST_F(MnemonicTest, AComboReachedByItsLabelKeepsEnterAndEscapeWhileItsListIsOpen) {
+    constexpr int kMethodLabel = 320;
+    constexpr int kMethod = 321;
+    DialogTemplate withCombo = CulvertForm();
+    withCombo.items.push_back(
+        Item("Static", kMethodLabel, SS_LEFT | WS_GROUP, {110, 62, 150, 70}, "&Method:"));
+    withCombo.items.push_back(Item("ComboBox", kMethod, CBS_DROPDOWNLIST | WS_TABSTOP | WS_VSCROLL,
+                                   {150, 60, 215, 110}, ""));
+    CDialog dialog{0};
+    ASSERT_TRUE(dialog.CreateIndirect(withCombo, &parent));
+    NotificationRecorder heard(dialog.m_hWnd);
+    for (const char* method : {"Standard step", "Direct step", "Manning"})
+        dialog.SendDlgItemMessage(kMethod, CB_ADDSTRING, 0, LPARAM(method));
+    const auto dropped = [&] { return dialog.SendDlgItemMessage(kMethod, CB_GETDROPPEDSTATE); };
+
+    AltPress('M');
+    EXPECT_EQ(GetDlgCtrlID(GetFocus()), kMethod);
+    AltPress(VK_DOWN);
+    EXPECT_TRUE(dropped());
+    ui.Type("m");
+    ui.PressKey(VK_RETURN); // closes the list with its choice, and the dialog stays
+    EXPECT_FALSE(dropped());
+    EXPECT_EQ(dialog.SendDlgItemMessage(kMethod, CB_GETCURSEL), 2);
+    ui.PressKey(VK_F4);
+    ui.PressKey(VK_ESCAPE);
+    EXPECT_FALSE(dropped());
+    EXPECT_TRUE(dialog.IsWindow());
+    for (const RecordedMessage& r : heard.Records())
+        EXPECT_FALSE(r.message == WM_COMMAND && (r.id == IDOK || r.id == IDCANCEL));
+    dialog.DestroyWindow();
 }
 
 TEST_F(MnemonicTest, AMessageBoxAnswersItsButtonsLetters) {
