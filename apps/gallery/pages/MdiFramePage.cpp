@@ -2,8 +2,9 @@
 // active, the first not), each with its icon, and the plot's right-click menu open over the
 // active one with a check, a grey item, a separator and a sub-menu. A second picture shows the
 // active plot maximised: its icon and buttons on the frame's menu bar and its name in the
-// frame's caption; a click on the bar's restore button then gives it back its place. On a
-// display the frame stays: the menu bar's commands arrange the documents, and a right click
+// frame's caption; a click on the bar's restore button then gives it back its place. A third
+// shows the other plot minimised to a title bar at the client's bottom. On a display the frame
+// stays, both plots restored: the menu bar's commands arrange the documents, and a right click
 // opens the menu.
 
 #include "GalleryPage.h"
@@ -251,6 +252,13 @@ void BuildMdiFramePage(GalleryContext& context) {
     documents[1]->ClientToScreen(&at);
     documents[1]->ShowMenu(at);
     ShowMaximized(context, frame, *documents[1], driver);
+
+    documents[0]->SendMessage(WM_SYSCOMMAND, SC_MINIMIZE);
+    driver.Pump();
+    context.Capture(frame, "32-mdi-frame-minimized");
+    documents[0]->SendMessage(WM_SYSCOMMAND, SC_RESTORE);
+    frame.MDIActivate(documents[1]);
+    driver.Pump();
     for (const ShownMenuItem& item : menus.Last().items)
         context.Print("  menu item \"%s\"%s%s%s", item.text.c_str(),
                       item.state & MF_CHECKED ? " checked" : "",

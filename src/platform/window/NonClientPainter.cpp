@@ -40,8 +40,9 @@ void DrawOuterFrame(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect
     rect.DeflateRect(m.border, m.border);
 }
 
-// A glyph of the caption's buttons, drawn in the button's face.
-void DrawGlyph(CDC& dc, const CRect& face, UINT command, bool maximized) {
+// A glyph of the caption's buttons (SC_CLOSE, SC_MAXIMIZE, SC_RESTORE, SC_MINIMIZE), drawn in
+// the button's face.
+void DrawGlyph(CDC& dc, const CRect& face, UINT command) {
     const COLORREF ink = GetSysColor(COLOR_BTNTEXT);
     const CPoint c = face.CenterPoint();
     switch (command) {
@@ -51,17 +52,15 @@ void DrawGlyph(CDC& dc, const CRect& face, UINT command, bool maximized) {
             dc.FillSolidRect(c.x + 1 - i, c.y - 4 + i, 2, 1, ink);
         }
         break;
+    case SC_RESTORE: // two overlapping windows
+        dc.FillSolidRect(c.x - 2, c.y - 5, 6, 2, ink);
+        dc.FillSolidRect(c.x + 3, c.y - 5, 1, 5, ink);
+        dc.FillSolidRect(c.x - 4, c.y - 2, 6, 2, ink);
+        dc.Draw3dRect(c.x - 4, c.y - 2, 6, 5, ink, ink);
+        break;
     case SC_MAXIMIZE:
-        if (maximized) {
-            // Restore: two overlapping windows.
-            dc.FillSolidRect(c.x - 2, c.y - 5, 6, 2, ink);
-            dc.FillSolidRect(c.x + 3, c.y - 5, 1, 5, ink);
-            dc.FillSolidRect(c.x - 4, c.y - 2, 6, 2, ink);
-            dc.Draw3dRect(c.x - 4, c.y - 2, 6, 5, ink, ink);
-        } else {
-            dc.FillSolidRect(c.x - 4, c.y - 4, 9, 2, ink);
-            dc.Draw3dRect(c.x - 4, c.y - 4, 9, 8, ink, ink);
-        }
+        dc.FillSolidRect(c.x - 4, c.y - 4, 9, 2, ink);
+        dc.Draw3dRect(c.x - 4, c.y - 4, 9, 8, ink, ink);
         break;
     default:
         dc.FillSolidRect(c.x - 4, c.y + 2, 6, 2, ink);
@@ -79,7 +78,10 @@ void DrawCaptionButtons(const WindowRecord& w, CDC& dc) {
             continue;
         CRect face = rect;
         dc.DrawFrameControl(&face, DFC_BUTTON, DFCS_BUTTONPUSH);
-        DrawGlyph(dc, rect, command, (w.style & WS_MAXIMIZE) != 0);
+        // The button of the state the window is in gives it back its size.
+        const bool restores = (command == SC_MAXIMIZE && (w.style & WS_MAXIMIZE)) ||
+                              (command == SC_MINIMIZE && (w.style & WS_MINIMIZE));
+        DrawGlyph(dc, rect, restores ? SC_RESTORE : command);
     }
 }
 
@@ -133,12 +135,12 @@ void DrawMdiBarControls(const MdiBarControls& controls, CDC& dc) {
     else
         DrawDocumentGlyph(dc, controls.icon);
     const std::pair<CRect, UINT> buttons[] = {{controls.minimize, SC_MINIMIZE},
-                                              {controls.restore, SC_MAXIMIZE},
+                                              {controls.restore, SC_RESTORE},
                                               {controls.close, SC_CLOSE}};
     for (const auto& [rect, command] : buttons) {
         CRect face = rect;
         dc.DrawFrameControl(&face, DFC_BUTTON, DFCS_BUTTONPUSH);
-        DrawGlyph(dc, rect, command, true);
+        DrawGlyph(dc, rect, command);
     }
 }
 

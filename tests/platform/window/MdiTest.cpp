@@ -318,6 +318,53 @@ TEST_F(MdiMenuBarTest, AMaximisedDocumentShowsItsControlsOnTheBarAndItsNameInThe
     EXPECT_FALSE(second->GetStyle() & WS_MAXIMIZE);
 }
 
+TEST_F(MdiMenuBarTest, MinimisedDocumentsLineUpAlongTheBottomAndComeBackFromTheirButtons) {
+    DocumentWnd* first = Open("Inlet");
+    DocumentWnd* second = Open("Outlet");
+    ASSERT_TRUE(first && second);
+    const CRect secondPlace = RectInClient(second);
+    frame.MDIMaximize(second);
+    driver.Click(frame.m_hWnd, BarButton(2)); // minimise
+    EXPECT_TRUE(second->GetStyle() & WS_MINIMIZE);
+    EXPECT_FALSE(second->GetStyle() & WS_MAXIMIZE);
+    BOOL maximized = TRUE;
+    EXPECT_EQ(frame.MDIGetActive(&maximized), first) << "the next document takes over";
+    EXPECT_FALSE(maximized);
+    EXPECT_EQ(FrameTitle(), "Frame");
+    CRect client;
+    ::GetClientRect(frame.m_hWndMDIClient, &client);
+    const CRect icon = RectInClient(second);
+    EXPECT_EQ(icon.left, 0);
+    EXPECT_EQ(icon.bottom, client.bottom);
+    EXPECT_LT(icon.Height(), 2 * GetSystemMetrics(SM_CYCAPTION));
+
+    // A second one stands beside it; cascading leaves both where they are.
+    const CRect firstPlace = RectInClient(first);
+    first->SendMessage(WM_SYSCOMMAND, SC_MINIMIZE);
+    EXPECT_EQ(RectInClient(first).TopLeft(), CPoint(icon.right, icon.top));
+    frame.MDICascade();
+    EXPECT_EQ(RectInClient(second), icon);
+
+    // The first button of a minimised document's caption restores it, active, and the other
+    // icon closes up.
+    CRect outer;
+    second->GetWindowRect(&outer);
+    CPoint restore(-1, -1);
+    for (int x = outer.left; x < outer.right && restore.x < 0; ++x)
+        if (second->SendMessage(WM_NCHITTEST, 0, MAKELPARAM(x, outer.CenterPoint().y)) ==
+            HTMINBUTTON)
+            restore = CPoint(x + 2, outer.CenterPoint().y);
+    ASSERT_GE(restore.x, 0);
+    ::ScreenToClient(frame.m_hWndMDIClient, &restore);
+    driver.Click(frame.m_hWndMDIClient, restore);
+    EXPECT_FALSE(second->GetStyle() & WS_MINIMIZE);
+    EXPECT_EQ(RectInClient(second), secondPlace);
+    EXPECT_EQ(frame.MDIGetActive(), second);
+    EXPECT_EQ(RectInClient(first).TopLeft(), icon.TopLeft());
+    frame.MDIRestore(first);
+    EXPECT_EQ(RectInClient(first), firstPlace);
+}
+
 TEST_F(MdiMenuBarTest, TheCloseButtonClosesTheMaximisedDocumentAndTheNextTakesItsPlace) {
     DocumentWnd* first = Open("Inlet");
     DocumentWnd* second = Open("Outlet");
