@@ -2,8 +2,10 @@
 # Works the standard controls of the gallery from the keyboard alone on a virtual X display,
 # with real X events: Alt+letter ticks the check box its label names, a label's letter leads
 # to its edit, which takes typing, and the method combo opens with Alt+Down, takes a typed
-# letter and closes with Enter, then opens with F4 and closes with Escape. Saves a screenshot
-# after each step into the folder given and checks what it can.
+# letter and closes with Enter, then opens with F4 and closes with Escape. Then, in the
+# multiple-document frame, a plot maximised by its caption button puts its controls on the
+# frame's menu bar and its name in the frame's title, and the bar's restore button gives it
+# back. Saves a screenshot after each step into the folder given and checks what it can.
 #
 #   scripts/xvfb/mnemonics.sh <screenshot folder> [path to the gallery]
 set -euo pipefail
@@ -63,5 +65,25 @@ shot 07-escaped
 verdict $(($(windows_now) == before)) "Escape closed it"
 changed=$(pixels_changed 05-chosen 07-escaped "$(around method-arrow 200 12)")
 verdict $((changed < 20)) "Escape kept the chosen method ($changed pixels changed)"
+
+# The multiple-document frame, worked by the mouse.
+kill "$gallery_pid" 2>/dev/null || true
+wait "$gallery_pid" 2>/dev/null || true
+start_gallery --page 32-mdi-frame
+window=$(xdotool search --sync --onlyvisible --name "ORVAUtil Plots" | head -1)
+sleep 1
+click() { xdotool mousemove $(place "$1") sleep 0.3 click 1 sleep 0.8; }
+
+shot 08-frame
+click plot-maximize
+shot 09-maximized
+expect "the frame's title names the maximised plot" "$(xdotool getwindowname "$window")" \
+    "ORVAUtil Plots - [Bending moment]"
+click bar-restore
+shot 10-restored
+expect "the bar's restore button gave the plot back its place" \
+    "$(xdotool getwindowname "$window")" "ORVAUtil Plots"
+changed=$(pixels_changed 08-frame 10-restored "600x420+30+70")
+verdict $((changed < 50)) "the frame looks as before ($changed pixels changed)"
 
 finish

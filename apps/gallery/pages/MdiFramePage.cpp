@@ -189,6 +189,25 @@ std::string TitleOf(CWnd& wnd) {
     return title.GetString();
 }
 
+// Prints a screen point as "at <name> <x> <y>" relative to the frame's corner, for a script
+// that clicks it on a display.
+void PrintPlace(GalleryContext& context, CWnd& frame, const char* name, CPoint screen) {
+    CRect outer;
+    frame.GetWindowRect(&outer);
+    context.Print("at %s %d %d", name, int(screen.x - outer.left), int(screen.y - outer.top));
+}
+
+// The middle of a caption button of a document window (HTMAXBUTTON, ...), in screen points.
+CPoint CaptionButton(CWnd& document, LRESULT button) {
+    CRect outer;
+    document.GetWindowRect(&outer);
+    for (int y = outer.top; y < outer.top + GetSystemMetrics(SM_CYCAPTION) * 2; ++y)
+        for (int x = outer.left; x < outer.right; ++x)
+            if (document.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(x, y)) == button)
+                return CPoint(x + 6, y + 6);
+    return outer.CenterPoint();
+}
+
 // The active plot maximised, pictured, and restored by a click on the bar's restore button.
 void ShowMaximized(GalleryContext& context, PlotFrame& frame, PlotDocument& document,
                    UiDriver& driver) {
@@ -201,8 +220,10 @@ void ShowMaximized(GalleryContext& context, PlotFrame& frame, PlotDocument& docu
     frame.GetClientRect(&client);
     const int height = GetSystemMetrics(SM_CYMENU) - 4;
     const int width = height + 2;
-    driver.Click(frame,
-                 CPoint(client.right - 4 - width - width / 2, -GetSystemMetrics(SM_CYMENU) / 2));
+    CPoint restore(client.right - 4 - width - width / 2, -GetSystemMetrics(SM_CYMENU) / 2);
+    driver.Click(frame, restore);
+    frame.ClientToScreen(&restore);
+    PrintPlace(context, frame, "bar-restore", restore);
     BOOL maximized = TRUE;
     frame.MDIGetActive(&maximized);
     context.Print("after a click on the bar's restore button: %s, the caption reads \"%s\"",
@@ -259,6 +280,7 @@ void BuildMdiFramePage(GalleryContext& context) {
     documents[0]->SendMessage(WM_SYSCOMMAND, SC_RESTORE);
     frame.MDIActivate(documents[1]);
     driver.Pump();
+    PrintPlace(context, frame, "plot-maximize", CaptionButton(*documents[1], HTMAXBUTTON));
     for (const ShownMenuItem& item : menus.Last().items)
         context.Print("  menu item \"%s\"%s%s%s", item.text.c_str(),
                       item.state & MF_CHECKED ? " checked" : "",
