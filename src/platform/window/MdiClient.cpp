@@ -1,7 +1,7 @@
 // The "MDIClient" window: it holds a frame's document windows, knows the active one and whether
 // they are maximised, places new ones in a cascade, and arranges them. While one is maximised
-// the frame's caption names it; minimised ones line up as title bars along the client's bottom. The
-// default procedures of the frame and of the document windows lead here.
+// the frame's caption names it; minimised ones line up as title bars along the client's
+// bottom. The default procedures of the frame and of the document windows lead here.
 //
 // Sections: the client's state; placing; minimised windows; activation, maximising, minimising
 // and restoring; the frame's caption; the client's procedure; DefMDIChildProc and DefFrameProc.
@@ -113,9 +113,9 @@ void ArrangeIcons(HWND client, const ClientState& state) {
 }
 
 // A child leaving its minimised state gives up its place; the others close up.
-void LeaveIcons(HWND client, ClientState& state, HWND child) {
-    if (std::erase(state.icons, child))
-        ArrangeIcons(client, state);
+void LeaveIcons(HWND client, HWND child) {
+    if (ClientState* state = StateOf(client); state && std::erase(state->icons, child))
+        ArrangeIcons(client, *state);
 }
 
 // ---- Activation, maximising, minimising and restoring ----
@@ -133,8 +133,8 @@ void Maximize(HWND client, ClientState& state, HWND child) {
         state.restoreRects[child] = w->rect;
     w->style = (w->style & ~WS_MINIMIZE) | WS_MAXIMIZE;
     state.maximized = true;
-    LeaveIcons(client, state, child);
     const CRect rect = MaximizedRect(client, *w);
+    LeaveIcons(client, child);
     SetWindowPos(child, nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
@@ -147,9 +147,9 @@ void Restore(HWND client, ClientState& state, HWND child) {
     const auto it = state.restoreRects.find(child);
     const CRect rect = it != state.restoreRects.end() ? it->second : w->rect;
     state.restoreRects.erase(child);
+    LeaveIcons(client, child);
     SetWindowPos(child, nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-    LeaveIcons(client, state, child);
 }
 
 void Activate(HWND client, HWND child) {
@@ -196,7 +196,9 @@ void Minimize(HWND client, ClientState& state, HWND child) {
     w->style = (w->style & ~WS_MAXIMIZE) | WS_MINIMIZE;
     state.icons.push_back(child);
     ArrangeIcons(client, state);
-    if (state.active != child)
+    // The moves may have ended the client.
+    const ClientState* now = StateOf(client);
+    if (!now || now->active != child)
         return;
     for (HWND next : Children(client))
         if (next != child && !IsMinimized(next)) {
@@ -444,8 +446,8 @@ void ChildGoing(HWND client, HWND child) {
     if (!state)
         return;
     state->restoreRects.erase(child);
-    LeaveIcons(client, *state, child);
-    if (state->active != child)
+    LeaveIcons(client, child);
+    if ((state = StateOf(client)) == nullptr || state->active != child)
         return;
     const bool maximized = state->maximized;
     state->active = nullptr;
