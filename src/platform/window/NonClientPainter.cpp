@@ -115,7 +115,7 @@ void DrawCaption(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& r
     rect.top += m.caption;
 }
 
-// A document without an icon of its own shows a page with a folded corner.
+// A document without an icon of its own shows a page of text.
 void DrawDocumentGlyph(CDC& dc, const CRect& place) {
     const COLORREF ink = GetSysColor(COLOR_WINDOWTEXT);
     CRect page(place.left + 2, place.top + 1, place.right - 3, place.bottom - 1);
