@@ -7,6 +7,7 @@
 #include "platform/system/SysColors.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace widgets {
 namespace {
@@ -74,7 +75,13 @@ int EditBehaviour::TextWidth(int pos, int count) const {
 int EditBehaviour::LineOffset(int line) const {
     const CRect format = FormatRect();
     const DisplayLine& shown = Lines()[size_t(line)];
-    const int width = TextWidth(shown.start, shown.length);
+    // The blanks where a wrapped line breaks overhang: they take no part in its alignment.
+    int length = shown.length;
+    while (
+        shown.wrapped && length > 0 &&
+        std::isblank(static_cast<unsigned char>(m_model.Text()[size_t(shown.start + length - 1)])))
+        --length;
+    const int width = TextWidth(shown.start, length);
     const DWORD align = Style() & (ES_CENTER | ES_RIGHT);
     // Aligned lines that fit stand still; a line wider than the control scrolls from the left.
     if (align && width < format.Width()) {

@@ -79,6 +79,21 @@ TEST_F(EditWrapTest, OnlyAnEditThatCannotScrollSidewaysWraps) {
     EXPECT_EQ(barred.GetLineCount(), 1);
 }
 
+TEST_F(EditWrapTest, RightAlignedLinesEndAtTheMarginWithoutTheirBreakingBlanks) {
+    Make(kWrapping | ES_RIGHT);
+    CRect format;
+    edit.GetRect(&format);
+    ASSERT_GT(edit.GetLineCount(), 2);
+    for (int line = 0; line + 1 < edit.GetLineCount(); ++line) {
+        SCOPED_TRACE(line);
+        // The blank that ends the line stands where its last word ends.
+        const int blank = edit.LineIndex(line + 1) - 1;
+        const int ends = edit.PosFromChar(UINT(blank)).x;
+        EXPECT_GE(ends, format.right - 3);
+        EXPECT_LE(ends, format.right);
+    }
+}
+
 TEST_F(EditWrapTest, AWordWiderThanTheControlIsBrokenWhereItFillsTheLine) {
     Make();
     const std::string word(60, 'W');
