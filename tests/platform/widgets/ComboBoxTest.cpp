@@ -181,21 +181,6 @@ TEST_F(ComboBoxTest, AltArrowsAndF4OpenAndCloseTheListFromTheEditFieldTakingTheC
                             CBN_CLOSEUP, CBN_DROPDOWN, CBN_SELENDOK, CBN_CLOSEUP));
 }
 
-TEST_F(ComboBoxTest, ALetterTypedInTheOpenListOfADropDownListSelectsTheNextItemWithIt) {
-    Make(CBS_DROPDOWNLIST);
-    combo.SetFocus();
-    ui.PressKey(VK_F4);
-    ui.Type("B");
-    ui.Type("b");
-    EXPECT_TRUE(combo.GetDroppedState());
-    EXPECT_EQ(combo.GetCurSel(), 3);
-    ui.Type("z"); // no item begins with it
-    ui.PressKey(VK_RETURN);
-    EXPECT_EQ(TextOf(combo), "blueberry");
-    EXPECT_THAT(CommandsFrom(kComboId), ElementsAre(CBN_SETFOCUS, CBN_DROPDOWN, CBN_SELCHANGE,
-                                                    CBN_SELCHANGE, CBN_SELENDOK, CBN_CLOSEUP));
-}
-
 TEST_F(ComboBoxTest, ACharacterSentToADropDownIsTypedInItsField) {
     Make(CBS_DROPDOWN);
     combo.SetFocus();
