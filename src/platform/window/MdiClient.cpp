@@ -545,6 +545,20 @@ LRESULT DefMDIChildProc(HWND child, UINT message, WPARAM wParam, LPARAM lParam) 
     return DefWindowProc(child, message, wParam, lParam);
 }
 
+BOOL TranslateMDISysAccel(HWND mdiClient, MSG* msg) {
+    if (!msg || (msg->message != WM_KEYDOWN && msg->message != WM_SYSKEYDOWN) ||
+        GetKeyState(VK_CONTROL) >= 0 || (msg->wParam != VK_F4 && msg->wParam != VK_F6))
+        return FALSE;
+    const HWND active = ActiveMdiChild(mdiClient);
+    if (!active)
+        return FALSE;
+    if (msg->wParam == VK_F4)
+        SendMessage(active, WM_SYSCOMMAND, SC_CLOSE, 0);
+    else
+        SendMessage(mdiClient, WM_MDINEXT, WPARAM(active), GetKeyState(VK_SHIFT) < 0 ? 1 : 0);
+    return TRUE;
+}
+
 LRESULT DefFrameProc(HWND frame, HWND mdiClient, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_SIZE:

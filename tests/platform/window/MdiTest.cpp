@@ -210,6 +210,24 @@ TEST_F(MdiTest, ADocumentShowsTheIconItWasGivenInItsCaption) {
     EXPECT_EQ(driver.Pixel(frame.m_hWndMDIClient, inIcon), RGB(255, 0, 0));
 }
 
+TEST_F(MdiTest, CtrlF6WalksTheDocumentsAndCtrlF4ClosesTheActiveOne) {
+    DocumentWnd* first = Open("First");
+    DocumentWnd* second = Open("Second");
+    DocumentWnd* third = Open("Third");
+    ASSERT_TRUE(first && second && third);
+    ASSERT_EQ(GetFocus(), third->m_hWnd);
+    driver.PressKey(VK_F6, MK_CONTROL);
+    EXPECT_EQ(frame.MDIGetActive(), second);
+    driver.PressKey(VK_F6, MK_CONTROL | MK_SHIFT);
+    EXPECT_EQ(frame.MDIGetActive(), third);
+    driver.PressKey(VK_F6); // without Ctrl, the document's own key
+    EXPECT_EQ(frame.MDIGetActive(), third);
+    log.clear();
+    driver.PressKey(VK_F4, MK_CONTROL);
+    EXPECT_THAT(Only(log, {"deleted"}), ::testing::ElementsAre("Third:deleted"));
+    EXPECT_NE(frame.MDIGetActive(), nullptr);
+}
+
 TEST_F(MdiTest, ClosingADocumentActivatesTheNextAndDeletesItsObject) {
     DocumentWnd* first = Open("First");
     DocumentWnd* second = Open("Second");
