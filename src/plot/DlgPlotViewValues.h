@@ -5,7 +5,7 @@
 // the curve's name and the axis titles. A missing point (X of -9999) shows as an empty pair.
 
 #include "controls/DialogORVA.h"
-#include "grid/GridCtrl.h"
+#include "spreadsheet/SpreadSheetORVA.h"
 #include "support/StdStr.h"
 
 #include <vector>
@@ -34,7 +34,7 @@ private:
     void EnterSSData();
     void MoveSizeItems(int cx, int cy);
 
-    CGridCtrl m_sheet;
+    CSpreadSheetORVA m_sheet;
     int m_curves = 0;
     int m_points = 0; // of the first curve
     std::vector<std::vector<double>> m_xValues;

@@ -31,7 +31,8 @@ struct SheetView {
 
 SheetView ReadSheet(CDialog& dialog) {
     SheetView view;
-    auto* sheet = dynamic_cast<CGridCtrl*>(dialog.GetDlgItem(CDlgPlotViewValues::IDC_VALUES));
+    auto* sheet =
+        dynamic_cast<CSpreadSheetORVA*>(dialog.GetDlgItem(CDlgPlotViewValues::IDC_VALUES));
     if (!sheet)
         return view;
     view.rows = sheet->GetRowCount();
