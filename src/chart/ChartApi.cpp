@@ -11,37 +11,51 @@
 #include <cmath>
 #include <map>
 
+namespace {
+
+// A write that went through may change what the chart shows: its layout and image are made
+// again when the window is next painted, which the write asks for. Nothing is drawn here, so a
+// chart fed value by value is drawn once.
+int ShowChange(HWND chart, ChartWindowState& state, int result) {
+    if (result) {
+        state.engine->Touch();
+        state.imageStale = true;
+        InvalidateRect(chart, nullptr, FALSE);
+    }
+    return result;
+}
+
+} // namespace
+
 ChartEngine* ChartEngineOf(HWND chart) {
     ChartWindowState* state = ChartStateOf(chart);
     return state ? state->engine.get() : nullptr;
 }
 
 int ChartSetArray(HWND chart, int property, const void* values, int count) {
-    ChartEngine* engine = ChartEngineOf(chart);
-    return engine ? engine->SetArray(property, values, count) : 0;
+    ChartWindowState* state = ChartStateOf(chart);
+    return state ? ShowChange(chart, *state, state->engine->SetArray(property, values, count)) : 0;
 }
 
 int ChartGetArray(HWND chart, int property, void* out) {
     ChartEngine* engine = ChartEngineOf(chart);
-    return engine ? engine->Properties().GetArray(property, out) : -1;
+    return engine ? engine->GetArray(property, out) : -1;
 }
 
 int ChartSetElement(HWND chart, int property, int index, const void* value) {
-    ChartEngine* engine = ChartEngineOf(chart);
-    return engine ? engine->SetElement(property, index, value) : 0;
+    ChartWindowState* state = ChartStateOf(chart);
+    return state ? ShowChange(chart, *state, state->engine->SetElement(property, index, value)) : 0;
 }
 
 int ChartGetElement(HWND chart, int property, int index, void* out) {
     ChartEngine* engine = ChartEngineOf(chart);
-    return engine ? engine->Properties().GetElement(property, index, out) : 0;
+    return engine ? engine->GetElement(property, index, out) : 0;
 }
 
 int ChartSetInt(HWND chart, int property, int value) {
-    ChartEngine* engine = ChartEngineOf(chart);
-    if (!engine)
-        return 0;
-    engine->Touch();
-    return engine->Properties().SetInt(property, value);
+    ChartWindowState* state = ChartStateOf(chart);
+    return state ? ShowChange(chart, *state, state->engine->Properties().SetInt(property, value))
+                 : 0;
 }
 
 int ChartGetInt(HWND chart, int property) {
@@ -50,11 +64,9 @@ int ChartGetInt(HWND chart, int property) {
 }
 
 int ChartSetString(HWND chart, int property, const char* text) {
-    ChartEngine* engine = ChartEngineOf(chart);
-    if (!engine)
-        return 0;
-    engine->Touch();
-    return engine->Properties().SetString(property, text);
+    ChartWindowState* state = ChartStateOf(chart);
+    return state ? ShowChange(chart, *state, state->engine->Properties().SetString(property, text))
+                 : 0;
 }
 
 int ChartGetString(HWND chart, int property, char* buffer) {
@@ -63,8 +75,9 @@ int ChartGetString(HWND chart, int property, char* buffer) {
 }
 
 int ChartSetCell(HWND chart, int property, int curve, int point, const double* value) {
-    ChartEngine* engine = ChartEngineOf(chart);
-    return engine ? engine->SetCell(property, curve, point, value) : 0;
+    ChartWindowState* state = ChartStateOf(chart);
+    return state ? ShowChange(chart, *state, state->engine->SetCell(property, curve, point, value))
+                 : 0;
 }
 
 HWND ChartCreate(int, int, RECT* clientRect, HWND parent, int controlId) {
@@ -132,13 +145,13 @@ int ChartStore(HWND chart, const char* path) {
 }
 
 int ChartLoad(HWND chart, const char* path) {
-    ChartEngine* engine = ChartEngineOf(chart);
+    ChartWindowState* state = ChartStateOf(chart);
     std::map<int, PropertyValue> loaded;
-    if (!engine || !LoadChartFile(path, loaded))
+    if (!state || !LoadChartFile(path, loaded))
         return 0;
-    engine->Properties().Replace(std::move(loaded));
-    engine->Unzoom();
-    return 1;
+    state->engine->Properties().Replace(std::move(loaded));
+    state->engine->Unzoom();
+    return ShowChange(chart, *state, 1);
 }
 
 HWND ChartCreateFromFile(const char* path, HWND parent, RECT* clientRect, int controlId) {

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 using namespace chartprop;
 
@@ -46,6 +47,41 @@ int ChartEngine::SetCell(int number, int curve, int point, const double* value) 
         curve >= m_properties.Int(CurveCount, 0) || KindOfProperty(number) != PropertyKind::Double)
         return 0;
     return SetElement(number, curve * points + point, value);
+}
+
+std::optional<double> ChartEngine::LaidOutRangeEnd(int number) {
+    if (number != XMinimum && number != XMaximum && number != YMinimum && number != YMaximum)
+        return std::nullopt;
+    if (RangeEndGiven(m_properties, number))
+        return std::nullopt;
+    const ChartFrame& f = Frame();
+    switch (number) {
+    case XMinimum:
+        return f.xMin;
+    case XMaximum:
+        return f.xMax;
+    case YMinimum:
+        return f.yMin;
+    default:
+        return f.yMax;
+    }
+}
+
+int ChartEngine::GetArray(int number, void* out) {
+    const std::optional<double> end = LaidOutRangeEnd(number);
+    if (!end)
+        return m_properties.GetArray(number, out);
+    if (out)
+        std::memcpy(out, &*end, sizeof(double));
+    return int(sizeof(double));
+}
+
+int ChartEngine::GetElement(int number, int index, void* out) {
+    const std::optional<double> end = index == 0 && out ? LaidOutRangeEnd(number) : std::nullopt;
+    if (!end)
+        return m_properties.GetElement(number, index, out);
+    std::memcpy(out, &*end, sizeof(double));
+    return 1;
 }
 
 // The newest point of each curve goes to the end and the oldest drops out at the front, so a

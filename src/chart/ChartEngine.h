@@ -25,6 +25,10 @@ public:
     int SetArray(int number, const void* values, int count);
     int SetElement(int number, int index, const void* value);
     int SetCell(int number, int curve, int point, const double* value);
+    // The interface's reads. An axis end that the chart chooses itself reads as the end it lays
+    // out, so that callers can measure the range on show.
+    int GetArray(int number, void* out);
+    int GetElement(int number, int index, void* out);
 
     // Any other change of the properties: the layout is made again when next needed.
     void Touch() { InvalidateLayout(); }
@@ -54,6 +58,7 @@ public:
     const ChartFrame& Frame();
 
 private:
+    std::optional<double> LaidOutRangeEnd(int number);
     void UpdateFits();
     void AppendPoint();
     void InvalidateLayout() { m_frame.reset(); }

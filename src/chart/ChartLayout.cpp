@@ -33,11 +33,10 @@ struct Extent {
 
 // Applies a range mode: given ends stay, the others come from the data, and a range of no
 // width is opened around its value.
-void ResolveRange(const ChartProperties& p, int modeId, int minId, int maxId, Extent data,
-                  double& low, double& high, bool& lowGiven, bool& highGiven) {
-    const int mode = p.Int(modeId, RangeAuto);
-    lowGiven = (mode == RangeMinimum || mode == RangeBoth) && p.Has(minId);
-    highGiven = (mode == RangeMaximum || mode == RangeBoth) && p.Has(maxId);
+void ResolveRange(const ChartProperties& p, int minId, int maxId, Extent data, double& low,
+                  double& high, bool& lowGiven, bool& highGiven) {
+    lowGiven = RangeEndGiven(p, minId);
+    highGiven = RangeEndGiven(p, maxId);
     low = lowGiven ? p.Double(minId, 0) : data.Any() ? data.low : 0;
     high = highGiven ? p.Double(maxId, 1) : data.Any() ? data.high : 1;
     if (!(high > low)) {
@@ -102,6 +101,14 @@ int CurveColour(const ChartProperties& p, int curve) {
     if (size_t(curve) < colours.size())
         return colours[size_t(curve)] & 0xFFFFFF;
     return kPalette[size_t(curve) % std::size(kPalette)];
+}
+
+bool RangeEndGiven(const ChartProperties& p, int endProperty) {
+    const bool low = endProperty == XMinimum || endProperty == YMinimum;
+    const int modeProperty =
+        endProperty == XMinimum || endProperty == XMaximum ? XRangeMode : YRangeMode;
+    const int mode = p.Int(modeProperty, RangeAuto);
+    return (mode == RangeBoth || mode == (low ? RangeMinimum : RangeMaximum)) && p.Has(endProperty);
 }
 
 CanvasFont ChartFont(const ChartProperties& p, double size, bool bold) {
@@ -175,8 +182,8 @@ ChartFrame LayoutChart(const Canvas& measure, const ChartProperties& p, int widt
         xData = {0, double(std::max(1, series.points - 1))};
     }
     bool xLowGiven, xHighGiven, yLowGiven, yHighGiven;
-    ResolveRange(p, XRangeMode, XMinimum, XMaximum, xData, f.xMin, f.xMax, xLowGiven, xHighGiven);
-    ResolveRange(p, YRangeMode, YMinimum, YMaximum, yData, f.yMin, f.yMax, yLowGiven, yHighGiven);
+    ResolveRange(p, XMinimum, XMaximum, xData, f.xMin, f.xMax, xLowGiven, xHighGiven);
+    ResolveRange(p, YMinimum, YMaximum, yData, f.yMin, f.yMax, yLowGiven, yHighGiven);
     if (zoom) {
         f.xMin = zoom->xMin, f.xMax = zoom->xMax, f.yMin = zoom->yMin, f.yMax = zoom->yMax;
         xLowGiven = xHighGiven = yLowGiven = yHighGiven = true;

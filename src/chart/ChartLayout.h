@@ -76,6 +76,9 @@ struct ChartFrame {
     }
 };
 
+// Whether an end of an axis range (XMinimum, XMaximum, YMinimum or YMaximum) is the property's
+// value under its axis's range mode, rather than the end the chart lays out for its data.
+bool RangeEndGiven(const ChartProperties& properties, int endProperty);
 ORVA_API CanvasFont ChartFont(const ChartProperties& properties, double size, bool bold = false);
 ChartFrame LayoutChart(const Canvas& measure, const ChartProperties& properties, int width,
                        int height, const std::optional<ChartZoom>& zoom);

