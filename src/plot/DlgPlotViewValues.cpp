@@ -51,8 +51,8 @@ CString ValueText(double value) {
 CDlgPlotViewValues::CDlgPlotViewValues(const std::vector<std::vector<double>>& xValues,
                                        const std::vector<std::vector<double>>& yValues,
                                        const std::vector<zvk::CStdStr<char>>& curveNames,
-                                       unsigned char negateY, CWnd* parent)
-    : CDialogORVA(IDD, parent), m_curves(int(xValues.size())),
+                                       unsigned char negateY)
+    : CDialogORVA(IDD, nullptr), m_curves(int(xValues.size())),
       m_points(xValues.empty() ? 0 : int(xValues.front().size())), m_xValues(xValues),
       m_yValues(yValues) {
     if (curveNames.size() == xValues.size()) {
@@ -68,7 +68,7 @@ CDlgPlotViewValues::CDlgPlotViewValues(const std::vector<std::vector<double>>& x
         for (auto& curve : m_yValues)
             for (double& y : curve)
                 y *= -1.0;
-    InitModalIndirect(ValuesTemplate(), parent);
+    InitModalIndirect(ValuesTemplate(), nullptr);
 }
 
 void CDlgPlotViewValues::DoDataExchange(CDataExchange* dx) {

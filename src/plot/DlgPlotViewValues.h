@@ -20,8 +20,7 @@ public:
     // are made up as "Plot 1", "Plot 2", ... With `negateY` the Y values show negated.
     CDlgPlotViewValues(const std::vector<std::vector<double>>& xValues,
                        const std::vector<std::vector<double>>& yValues,
-                       const std::vector<zvk::CStdStr<char>>& curveNames, unsigned char negateY,
-                       CWnd* parent = nullptr);
+                       const std::vector<zvk::CStdStr<char>>& curveNames, unsigned char negateY);
 
     void SetXTitle(const zvk::CStdStr<char>& title) { m_xTitle = title; }
     void SetYTitle(const zvk::CStdStr<char>& title) { m_yTitle = title; }

@@ -52,7 +52,7 @@ void ShowPlotValues(EPlot& plot) {
     plot.GetCurveNames(names);
     unsigned char negateY = 0;
     plot.GetProperty(kValuesNegated, negateY);
-    CDlgPlotViewValues dialog(xValues, yValues, names, negateY, DialogOwner(plot.GetHwnd()));
+    CDlgPlotViewValues dialog(xValues, yValues, names, negateY);
     dialog.SetXTitle(plot.GetXAxisTitle());
     dialog.SetYTitle(plot.GetYAxisTitle());
     dialog.DoModal();

@@ -281,6 +281,28 @@ TEST_F(PlotInteractionTest, DoubleClickOnAnAxisTitleEditsTheTitles) {
     EXPECT_EQ(dialogs.Count(), 2);
 }
 
+// The values dialog gives the activation back to the main window, under which the plot's own
+// window lies: the plot must stay above it and keep the mouse.
+TEST_F(PlotInteractionTest, AfterTheValuesDialogThePlotStaysOverTheMainWindow) {
+    RegisterMenuResource(kPlotMenu, pmPlotMenuTemplate());
+    auto* plot = NewPlot<DragPlot>();
+    plot->Menu().SetMenuID(kPlotMenu);
+    const HWND chart = plot->GetHwnd();
+    ASSERT_EQ(GetWindow(GetAncestor(chart, GA_ROOT), GW_OWNER), mainWindow.m_hWnd);
+    ModalResponder dialogs;
+    dialogs.Next().Press(IDOK);
+    MenuResponder menus;
+    menus.ChooseTitle("View Values...");
+    driver.RightClick(chart, PixelOf(*plot, 5, 20));
+    ASSERT_EQ(dialogs.Count(), 1);
+    EXPECT_EQ(GetActiveWindow(), mainWindow.m_hWnd);
+
+    driver.Drag(chart, PixelOf(*plot, 4, 40), PixelOf(*plot, 4, 60));
+    ASSERT_EQ(plot->clicks.size(), 1u);
+    EXPECT_EQ(plot->clicks[0], std::make_pair(0, 4));
+    EXPECT_NEAR(DataAt(chart, YData, 4), 60, 1);
+}
+
 TEST_F(PlotInteractionTest, RightClickShowsTheFixedMenuAndTheChoiceReachesThePlot) {
     RegisterMenuResource(kPlotMenu, pmPlotMenuTemplate());
     auto* plot = NewPlot<RecordingPlot>();

@@ -111,10 +111,7 @@ HWND SetActiveWindow(HWND hwnd) {
     if (WindowRecord* o = Find(old))
         Send(o, WM_ACTIVATE, WA_INACTIVE, LPARAM(hwnd));
     if (WindowRecord* n = Find(hwnd)) {
-        auto& tops = TopLevelWindows();
-        std::erase(tops, hwnd);
-        tops.insert(tops.begin(), hwnd);
-        GetHost().RaiseWindowSurface(hwnd);
+        BringTopLevelToTop(hwnd);
         Send(n, WM_ACTIVATE, WA_ACTIVE, LPARAM(old));
     }
     return Find(old) ? old : nullptr;

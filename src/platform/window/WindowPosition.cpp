@@ -10,7 +10,25 @@
 namespace {
 using namespace wm;
 
+// True when `owner` owns `window`, directly or through the windows between them.
+bool IsOwnedBy(HWND window, HWND owner) {
+    const WindowRecord* w = Find(window);
+    // An owner is older than what it owns, so the chain is no longer than the windows there are.
+    for (size_t steps = TopLevelWindows().size(); w && w->owner && steps > 0; --steps) {
+        if (w->owner == owner)
+            return true;
+        w = Find(w->owner);
+    }
+    return false;
+}
+
 void Restack(WindowRecord& w, HWND insertAfter) {
+    if (IsTopLevel(w) && insertAfter != HWND_BOTTOM &&
+        (insertAfter == HWND_TOP || insertAfter == HWND_TOPMOST || insertAfter == HWND_NOTOPMOST ||
+         !Find(insertAfter))) {
+        BringTopLevelToTop(w.handle);
+        return;
+    }
     std::vector<HWND>& siblings = IsTopLevel(w) ? TopLevelWindows() : Find(w.parent)->children;
     std::erase(siblings, w.handle);
     if (insertAfter == HWND_BOTTOM) {
@@ -18,12 +36,9 @@ void Restack(WindowRecord& w, HWND insertAfter) {
         return;
     }
     const auto after = std::find(siblings.begin(), siblings.end(), insertAfter);
-    if (insertAfter == HWND_TOP || insertAfter == HWND_TOPMOST || insertAfter == HWND_NOTOPMOST ||
-        after == siblings.end()) {
+    if (insertAfter == HWND_TOP || after == siblings.end())
         siblings.insert(siblings.begin(), w.handle);
-        if (IsTopLevel(w))
-            GetHost().RaiseWindowSurface(w.handle);
-    } else
+    else
         siblings.insert(after + 1, w.handle);
 }
 
@@ -32,6 +47,29 @@ void InvalidateInParent(WindowRecord& w, const CRect& rect) {
         InvalidateClient(*parent, rect, true);
 }
 } // namespace
+
+namespace wm {
+
+// As on the framework's system, an owned window never goes below its owner: they come up
+// together, keeping their order among themselves. The display raises them from the bottom up,
+// so that it shows them as the window layer stacks them and the mouse goes where it looks.
+void BringTopLevelToTop(HWND hwnd) {
+    std::vector<HWND>& tops = TopLevelWindows();
+    std::vector<HWND> owned;
+    for (HWND top : tops)
+        if (IsOwnedBy(top, hwnd))
+            owned.push_back(top);
+    std::erase_if(tops, [&](HWND top) {
+        return top == hwnd || std::find(owned.begin(), owned.end(), top) != owned.end();
+    });
+    tops.insert(tops.begin(), hwnd);
+    tops.insert(tops.begin(), owned.begin(), owned.end());
+    GetHost().RaiseWindowSurface(hwnd);
+    for (auto above = owned.rbegin(); above != owned.rend(); ++above)
+        GetHost().RaiseWindowSurface(*above);
+}
+
+} // namespace wm
 
 BOOL SetWindowPos(HWND hwnd, HWND insertAfter, int x, int y, int width, int height, UINT flags) {
     WindowRecord* w = Find(hwnd);

@@ -73,6 +73,8 @@ void DeleteRecord(HWND hwnd);
 // Top-level windows, topmost first.
 std::vector<HWND>& TopLevelWindows();
 bool IsTopLevel(const WindowRecord& w);
+// Brings a top-level window to the top with the windows it owns above it (WindowPosition.cpp).
+void BringTopLevelToTop(HWND hwnd);
 
 // Geometry helpers shared by the window manager's files.
 struct FrameMetrics {
