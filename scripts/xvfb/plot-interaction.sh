@@ -29,7 +29,7 @@ differs() { # two shots, a region: true when some pixel of it differs
     [[ $(pixels_changed "$1" "$2" "$3") != 0 ]]
 }
 
-start_display :82 1280x900
+start_display :87 1280x900
 start_gallery --page 61-plot-interaction
 wait_for xdotool search --onlyvisible --name "plot interaction"
 frame=$(xdotool search --onlyvisible --name "plot interaction" | head -1)
