@@ -108,6 +108,11 @@ HWND SetActiveWindow(HWND hwnd) {
     if (hwnd == old)
         return old;
     f.active = hwnd;
+    // The captions of both windows and of the documents inside them change colour.
+    for (HWND top : {old, hwnd})
+        for (HWND within : top&& Find(top) ? SubtreeOf(top) : std::vector<HWND>{})
+            if (WindowRecord* w = Find(within))
+                InvalidateFrame(*w);
     if (WindowRecord* o = Find(old))
         Send(o, WM_ACTIVATE, WA_INACTIVE, LPARAM(hwnd));
     if (WindowRecord* n = Find(hwnd)) {

@@ -1,9 +1,12 @@
-// The stacking of top-level windows: an owned window stays above its owner, whichever way the
-// owner comes to the top, and the mouse goes to the window on top.
+// The stacking and activation of top-level windows: an owned window stays above its owner,
+// whichever way the owner comes to the top, the mouse goes to the window on top, and the
+// captions show which window is active.
 
 #include "WindowTestSupport.h"
 
+#include "platform/system/SysColors.h"
 #include "platform/testing/UiDriver.h"
+#include "platform/window/WindowDC.h"
 
 #include <algorithm>
 
@@ -84,6 +87,25 @@ TEST_F(ZOrderTest, TheOwnerActivatedOrRaisedByProgramStaysUnderWhatItOwns) {
     ::SetWindowPos(other.m_hWnd, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     ::SetActiveWindow(plot.m_hWnd);
     EXPECT_THAT(Stacking(), ElementsAre("tip", "plot", "other", "main"));
+}
+
+TEST_F(ZOrderTest, CaptionsShowTheActiveWindowAsTheActivationMoves) {
+    // A point of the caption bar: at its right end, just above the client area.
+    const auto captionColour = [&](CWnd& window) {
+        ui.Pump();
+        CRect outer;
+        window.GetWindowRect(&outer);
+        CPoint client(0, 0);
+        window.ClientToScreen(&client);
+        CWindowDC dc(&window);
+        return dc.GetPixel(outer.Width() - 10, client.y - outer.top - 4);
+    };
+    ::SetActiveWindow(plot.m_hWnd);
+    EXPECT_EQ(captionColour(plot), GetSysColor(COLOR_ACTIVECAPTION));
+    EXPECT_EQ(captionColour(main), GetSysColor(COLOR_INACTIVECAPTION));
+    ::SetActiveWindow(main.m_hWnd);
+    EXPECT_EQ(captionColour(plot), GetSysColor(COLOR_INACTIVECAPTION));
+    EXPECT_EQ(captionColour(main), GetSysColor(COLOR_ACTIVECAPTION));
 }
 
 } // namespace
