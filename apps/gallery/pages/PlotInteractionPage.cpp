@@ -1,8 +1,10 @@
 // Working with a plot: a water surface profile in a document frame whose plot menu the frame
-// routes to the plot. Pictures: the right-click menu open, a point of the water surface dragged
-// up, the axis titles dialog and the values dialog. On a display all of it works with the
-// mouse: a right click opens the menu, a water surface point drags up and down (never below
-// the bed), and two clicks on empty chart area draw a line whose slope the report prints.
+// routes to the plot, and the same profile in a window of its own that the frame owns.
+// Pictures: the right-click menu open, a point of the water surface dragged up, the axis
+// titles dialog, the values dialog, and the plot's own window still over the frame after its
+// values dialog. On a display all of it works with the mouse: a right click opens the menu, a
+// water surface point drags up and down (never below the bed), and two clicks on empty chart
+// area draw a line whose slope the report prints.
 
 #include "GalleryPage.h"
 
@@ -22,18 +24,17 @@
 #include "plot/PlotMenuResource.h"
 
 #include <cstdio>
-#include <cstring>
 #include <vector>
 
 namespace {
 
 constexpr int kLineChart = 0;
 constexpr unsigned char kDocument = 0;
+constexpr unsigned char kTopLevel = 1;
 constexpr UINT kPlotMenu = 6101;
 constexpr int kBed = 0;
 constexpr int kWater = 1;
 constexpr int kPoints = 12;
-constexpr const char* kMenuClass = "#32768";
 constexpr UINT kViewValuesItem = 10; // its position in the plot menu
 
 double BedLevel(int point) {
@@ -131,16 +132,17 @@ void ReportPoint(GalleryContext& context, HWND frame, EPlot& plot, const char* n
     context.Print("at %s %ld %ld", name, long(p.x - frameRect.left), long(p.y - frameRect.top));
 }
 
-// What a display would show: the open menus drawn over the frame, which is then captured.
-void CaptureWithOpenMenus(GalleryContext& context, HWND frame, const char* name) {
+// What a display would show: the windows above the frame (open menus, the plot windows it
+// owns) drawn over it from the bottom up, and then the frame captured.
+void CaptureWithWindowsAbove(GalleryContext& context, HWND frame, const char* name) {
+    std::vector<HWND> above;
+    for (HWND top = GetTopWindow(nullptr); top && top != frame; top = GetWindow(top, GW_HWNDNEXT))
+        if (IsWindowVisible(top))
+            above.insert(above.begin(), top);
     RECT frameRect;
     GetWindowRect(frame, &frameRect);
     HDC target = GetWindowDC(frame);
-    for (HWND top = GetTopWindow(nullptr); top; top = GetWindow(top, GW_HWNDNEXT)) {
-        char className[16] = {};
-        GetClassName(top, className, sizeof className);
-        if (!IsWindowVisible(top) || std::strcmp(className, kMenuClass) != 0)
-            continue;
+    for (HWND top : above) {
         RECT r;
         GetWindowRect(top, &r);
         HDC source = GetWindowDC(top);
@@ -182,7 +184,7 @@ void BuildPlotInteractionPage(GalleryContext& context) {
         GetWindowRect(frame.m_hWnd, &frameRect);
         context.Print("at view-values %ld %ld", long(item.x - frameRect.left),
                       long(item.y - frameRect.top));
-        CaptureWithOpenMenus(context, frame.m_hWnd, "61-plot-interaction-menu");
+        CaptureWithWindowsAbove(context, frame.m_hWnd, "61-plot-interaction-menu");
         EndMenu();
     });
     driver.RightClick(chart, ChartPixel(*plot, 850, 103.5));
@@ -224,6 +226,29 @@ void BuildPlotInteractionPage(GalleryContext& context) {
     // A point the user may drag next, and a place above it.
     ReportPoint(context, frame.m_hWnd, *plot, "water-point", 800, 102.4 - 0.3 * 8);
     ReportPoint(context, frame.m_hWnd, *plot, "water-target", 800, 102.5);
+
+    // A plot in a window of its own, which the frame owns: the values dialog gives the
+    // activation back to the frame, and the plot's window stays over it.
+    CRect outside(50, 290, 440, 585);
+    auto* owned = new ProfilePlot(kLineChart, "Profile - own window", &outside, kTopLevel, 2);
+    FillProfile(*owned);
+    owned->SetSubTitle("");
+    owned->RedrawPlot();
+    owned->Menu().SetMenuID(kPlotMenu);
+    const HWND ownedChart = owned->GetHwnd();
+    driver.Pump();
+    dialogs.Next().Press(IDOK);
+    menus.ChooseTitle("View Values...");
+    driver.RightClick(ownedChart, ChartPixel(*owned, 850, 103.5));
+    const HWND ownedWindow = GetAncestor(ownedChart, GA_ROOT);
+    context.Print("after the values dialog: frame active %s, plot window over it %s",
+                  GetActiveWindow() == frame.m_hWnd ? "yes" : "no",
+                  GetTopWindow(nullptr) == ownedWindow ? "yes" : "no");
+    driver.Pump();
+    CaptureWithWindowsAbove(context, frame.m_hWnd, "61-plot-interaction-owned");
+    ReportPoint(context, frame.m_hWnd, *owned, "own-menu-point", 850, 103.5);
+    ReportPoint(context, frame.m_hWnd, *owned, "own-water-point", 200, 102.4 - 0.3 * 2);
+    ReportPoint(context, frame.m_hWnd, *owned, "own-water-target", 200, 103.5);
 }
 
 } // namespace
