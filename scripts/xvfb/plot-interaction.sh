@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Works a plot of the gallery on a virtual X display with real X events: right-clicks the
 # water surface profile, chooses "View Values..." from its menu and closes the values dialog,
-# then drags a water surface point up. Saves a screenshot after each step into the folder
-# given, and checks that the menu, the dialog and the dragged point show.
+# then drags a water surface point up; then does the same with the profile's own window, which
+# must stay over the frame once its dialog closes. Saves a screenshot after each step into the
+# folder given, and checks that the menu, the dialogs and the dragged points show.
 #
 #   scripts/xvfb/plot-interaction.sh <screenshot folder> [gallery binary]
 set -euo pipefail
@@ -66,6 +67,33 @@ check differs 04-values-closed 05-dragged "40x$((py - ty + 40))+$((px - 20))+$((
     "the dragged point shows at its new place"
 check grep -q "water surface at point 9 now 102.5" "$out/gallery.log" \
     "the plot heard the drag end at the new level"
+
+# The profile in a window of its own, which the frame owns: its values dialog gives the
+# activation back to the frame, and the plot's window must stay over the frame and keep the
+# mouse.
+own=$(xdotool search --onlyvisible --name "^Profile - own window" | head -1)
+read -r ox oy < <(report_point own-menu-point "$own")
+read -r wx wy < <(report_point own-water-point "$own")
+read -r gx gy < <(report_point own-water-target "$own")
+eval "$(xdotool getwindowgeometry --shell "$own")"
+own_region="${WIDTH}x${HEIGHT}+$X+$Y"
+shot 06-own-window
+xdotool mousemove "$ox" "$oy" sleep 0.2 click 3 sleep 0.5 key v
+wait_for shows_window "^View Values$"
+xdotool key Return sleep 0.5
+check wait_for test -z "$(xdotool search --onlyvisible --name '^View Values$' 2>/dev/null)" \
+    "the plot window's values dialog opens and closes"
+shot 07-own-values-closed
+check test "$(pixels_changed 06-own-window 07-own-values-closed "$own_region")" -lt 2000 \
+    "the plot's own window still shows over the frame"
+xdotool mousemove "$wx" "$wy" sleep 0.2 mousedown 1 sleep 0.2
+for step in 1 2 3 4; do
+    xdotool mousemove "$wx" $((wy + (gy - wy) * step / 4)) sleep 0.1
+done
+xdotool mouseup 1 sleep 0.5
+shot 08-own-dragged
+check grep -q "water surface at point 3 now 103" "$out/gallery.log" \
+    "a drag in the plot's own window reaches its plot"
 
 check kill -0 "$gallery_pid" "the gallery still runs"
 finish

@@ -122,14 +122,15 @@ POINT ChartPixel(EPlot& plot, double gx, double gy) {
     return {x, y};
 }
 
-// A point of the chart, relative to the frame's outer corner, for the scripts that click it.
-void ReportPoint(GalleryContext& context, HWND frame, EPlot& plot, const char* name, double gx,
+// A point of the chart, relative to the outer corner of a top-level window, for the scripts
+// that click it.
+void ReportPoint(GalleryContext& context, HWND window, EPlot& plot, const char* name, double gx,
                  double gy) {
     POINT p = ChartPixel(plot, gx, gy);
     ClientToScreen(plot.GetHwnd(), &p);
-    RECT frameRect;
-    GetWindowRect(frame, &frameRect);
-    context.Print("at %s %ld %ld", name, long(p.x - frameRect.left), long(p.y - frameRect.top));
+    RECT windowRect;
+    GetWindowRect(window, &windowRect);
+    context.Print("at %s %ld %ld", name, long(p.x - windowRect.left), long(p.y - windowRect.top));
 }
 
 // What a display would show: the windows above the frame (open menus, the plot windows it
@@ -246,9 +247,9 @@ void BuildPlotInteractionPage(GalleryContext& context) {
                   GetTopWindow(nullptr) == ownedWindow ? "yes" : "no");
     driver.Pump();
     CaptureWithWindowsAbove(context, frame.m_hWnd, "61-plot-interaction-owned");
-    ReportPoint(context, frame.m_hWnd, *owned, "own-menu-point", 850, 103.5);
-    ReportPoint(context, frame.m_hWnd, *owned, "own-water-point", 200, 102.4 - 0.3 * 2);
-    ReportPoint(context, frame.m_hWnd, *owned, "own-water-target", 200, 103.5);
+    ReportPoint(context, ownedWindow, *owned, "own-menu-point", 850, 103.5);
+    ReportPoint(context, ownedWindow, *owned, "own-water-point", 200, 102.4 - 0.3 * 2);
+    ReportPoint(context, ownedWindow, *owned, "own-water-target", 200, 103.5);
 }
 
 } // namespace
