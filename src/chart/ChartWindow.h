@@ -30,8 +30,8 @@ struct ChartImageHandles {
 struct ChartWindowState {
     std::unique_ptr<ChartEngine> engine;
     ChartDrag drag;
-    // ChartResetImage only marks the image: a chart fed point by point and reset after each
-    // is drawn once, when it is next painted or its image is handed out.
+    // ChartResetImage and every write only mark the image: a chart fed point by point and
+    // reset after each is drawn once, when it is next painted or its image is handed out.
     bool imageStale = false;
     ChartImageHandles handedOut;
 };
