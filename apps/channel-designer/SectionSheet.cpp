@@ -1,0 +1,147 @@
+// Typed columns of the section sheet, and the way between its cells and a reach.
+
+#include "SectionSheet.h"
+
+#include "cells/GridCellCheckbox.h"
+#include "cells/GridCellCombo.h"
+#include "cells/GridCellFltCtrl.h"
+#include "cells/GridCellTimeCtrl.h"
+#include "cells/GridColorCell.h"
+#include "platform/system/SysColors.h"
+#include "support/FormatDouble.h"
+
+#include <cstdlib>
+
+namespace {
+
+struct ColumnLook {
+    const char* heading;
+    int width;
+};
+constexpr ColumnLook kLooks[SectionSheet::kColumns] = {
+    {"Sec.", 38},       {"Chainage (m)", 84},  {"Invert (m)", 76}, {"Bed width (m)", 88},
+    {"Side slope", 70}, {"Lining", 156},       {"Lined", 86},      {"Surveyed", 64},
+    {"Colour", 54},     {"Inflow (m3/s)", 90}, {"Depth (m)", 70},  {"Level (m)", 76},
+};
+
+struct Precision {
+    SectionSheet::Column column;
+    int decimals;
+};
+constexpr Precision kPrecisions[] = {{SectionSheet::kChainage, 1},
+                                     {SectionSheet::kInvert, 3},
+                                     {SectionSheet::kBedWidth, 2},
+                                     {SectionSheet::kSideSlope, 2},
+                                     {SectionSheet::kInflow, 3}};
+
+CString Number(double value, int decimals) {
+    return xgFormatDouble(value, decimals, 0, 0);
+}
+
+double ReadNumber(const CString& text, double fallback) {
+    char* end = nullptr;
+    const double value = std::strtod(text.GetString(), &end);
+    return end != text.GetString() ? value : fallback;
+}
+
+COleDateTime ToOleDate(const CalendarDate& date) {
+    return COleDateTime(date.year, date.month, date.day, 0, 0, 0);
+}
+
+} // namespace
+
+void SectionSheet::Configure() {
+    SetFixedRowCount(0);
+    SetColumnCount(kColumns);
+    SetRowCount(1);
+    SetFixedRowCount(1);
+    SetFixedColumnCount(1);
+    for (int col = 0; col < kColumns; ++col) {
+        SetItemText(0, col, kLooks[col].heading);
+        SetColumnWidth(col, kLooks[col].width);
+    }
+    SetHandleTabKey(TRUE);
+}
+
+void SectionSheet::MakeRow(int row) {
+    SetItemTextFmt(row, kSectionNumber, "%d", row);
+    for (const Precision& p : kPrecisions) {
+        SetCellType(row, p.column, RUNTIME_CLASS(CGridCellFltCtrl));
+        static_cast<CGridCellFltCtrl*>(GetCell(row, p.column))->SetPrecision(p.decimals, false, -1);
+    }
+    SetCellType(row, kLining, RUNTIME_CLASS(CGridCellCombo));
+    auto* lining = static_cast<CGridCellCombo*>(GetCell(row, kLining));
+    CStringArray names;
+    for (const Lining& l : Linings()) {
+        CString option;
+        option.Format("%s (n %.3f)", l.name, l.roughness);
+        names.Add(option);
+    }
+    lining->SetOptions(names);
+    lining->SetStyle(CBS_DROPDOWNLIST);
+    SetCellType(row, kLined, RUNTIME_CLASS(CGridCellTimeCtrl));
+    static_cast<CGridCellTimeCtrl*>(GetCell(row, kLined))->SetShowTime(false);
+    SetCellType(row, kSurveyed, RUNTIME_CLASS(CGridCellCheckbox));
+    SetCellType(row, kColour, RUNTIME_CLASS(CGridColorCell));
+    for (int col : {kSurveyed, kColour, kDepth, kLevel})
+        SetItemState(row, col, GetItemState(row, col) | GV_STATE_READONLY);
+    for (int col : {kDepth, kLevel})
+        SetItemBkColour(row, col, GetSysColor(COLOR_BTNFACE));
+}
+
+void SectionSheet::Show(const Reach& reach) {
+    SetRowCount(int(reach.sections.size()) + 1);
+    for (size_t i = 0; i < reach.sections.size(); ++i) {
+        const int row = RowOf(i);
+        const CrossSection& s = reach.sections[i];
+        MakeRow(row);
+        SetItemText(row, kChainage, Number(s.chainage, 1));
+        SetItemText(row, kInvert, Number(s.invert, 3));
+        SetItemText(row, kBedWidth, Number(s.bedWidth, 2));
+        SetItemText(row, kSideSlope, Number(s.sideSlope, 2));
+        SetItemData(row, kLining, s.lining);
+        const COleDateTime lined = ToOleDate(s.lined);
+        SetItemText(row, kLined, FormatDateTime(&lined, kFormatDate));
+        SetItemData(row, kSurveyed, s.surveyed ? 1 : 0);
+        SetItemBkColour(row, kColour, COLORREF(s.colour));
+        SetItemText(row, kInflow, Number(s.inflow.PeakRate(), 3));
+    }
+    ShowProfile(reach);
+}
+
+void SectionSheet::ShowProfile(const Reach& reach) {
+    const std::vector<ProfilePoint> profile = reach.Profile();
+    for (size_t i = 0; i < profile.size() && RowOf(i) < GetRowCount(); ++i) {
+        const ProfilePoint& p = profile[i];
+        SetItemText(RowOf(i), kDepth, p.depth ? Number(*p.depth, 3) : CString("no flow"));
+        SetItemText(RowOf(i), kLevel, p.level ? Number(*p.level, 3) : CString("-"));
+    }
+    Invalidate();
+}
+
+CrossSection SectionSheet::ReadRow(int row, const CrossSection& before) const {
+    CrossSection s = before;
+    s.chainage = ReadNumber(GetItemText(row, kChainage), s.chainage);
+    s.invert = ReadNumber(GetItemText(row, kInvert), s.invert);
+    s.bedWidth = ReadNumber(GetItemText(row, kBedWidth), s.bedWidth);
+    s.sideSlope = ReadNumber(GetItemText(row, kSideSlope), s.sideSlope);
+    const LPARAM lining = GetItemData(row, kLining);
+    if (lining >= 0 && size_t(lining) < Linings().size())
+        s.lining = int(lining);
+    if (const auto* lined = reinterpret_cast<const COleDateTime*>(GetItemData(row, kLined));
+        lined && lined->GetStatus() == COleDateTime::valid)
+        s.lined = {lined->GetYear(), lined->GetMonth(), lined->GetDay()};
+    s.surveyed = GetItemData(row, kSurveyed) != 0;
+    s.colour = GetItemBkColour(row, kColour);
+    const double inflow = ReadNumber(GetItemText(row, kInflow), s.inflow.PeakRate());
+    if (inflow != s.inflow.PeakRate())
+        s.inflow = Inflow{false, inflow, {}};
+    return s;
+}
+
+Reach SectionSheet::Read(const Reach& reach) const {
+    Reach read = reach;
+    for (size_t i = 0; i < read.sections.size() && RowOf(i) < GetRowCount(); ++i)
+        read.sections[i] = ReadRow(RowOf(i), reach.sections[i]);
+    return read;
+}
