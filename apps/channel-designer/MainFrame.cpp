@@ -21,12 +21,12 @@ namespace {
 // Topics of the help document that the Help menu opens.
 constexpr int kIntroductionTopic = 0;
 constexpr int kAnalysisTopic = 18;  // "5. Analysis"
-constexpr int kProfileHeight = 250; // pixels of the reach window above its plots
+constexpr int kProfileHeight = 210; // pixels of the reach window above its plots
 
 void RegisterMenu() {
     RegisterMenuResource(MainFrame::kMenuId,
                          {{"&File",
-                           {{"&Open Reach...\tCtrl+O", MainFrame::kOpen},
+                           {{"&Open Reach...", MainFrame::kOpen},
                             {"Open Example: &Mill Creek", MainFrame::kOpenExample1},
                             {"Open Example: &East Drain", MainFrame::kOpenExample2},
                             {},
@@ -40,7 +40,7 @@ void RegisterMenu() {
                           {"&Window",
                            {{"&Cascade", MainFrame::kCascade},
                             {"&Tile", MainFrame::kTile},
-                            {"&Next Window\tCtrl+F6", MainFrame::kNextWindow}}},
+                            {"&Next Window", MainFrame::kNextWindow}}},
                           {"&Help",
                            {{"&Contents", MainFrame::kHelpContents},
                             {"&Analysis", MainFrame::kHelpAnalysis},

@@ -58,6 +58,18 @@ void LongProfilePlot::Refresh() {
     data.SetSubsetColor(kBed, kBedColour);
     data.SetSubsetColor(kWater, kWaterColour);
     data.UpdatePlotFromData(GetHwnd());
+    // Fixed ranges around the reach: they hold still while a point is dragged, and the chart
+    // keeps a dragged point within reach of them.
+    double low = profile.empty() ? 0 : profile.front().invert, high = low;
+    for (const ProfilePoint& p : profile) {
+        low = std::min(low, p.invert);
+        high = std::max(high, p.level.value_or(p.invert));
+    }
+    const double margin = std::max(0.2, (high - low) * 0.15);
+    SetYRange(std::floor((low - margin) * 10) / 10, std::ceil((high + margin) * 10) / 10,
+              RangeBothGiven);
+    if (!profile.empty())
+        SetXRange(profile.front().chainage, profile.back().chainage, RangeBothGiven);
     std::vector<int> symbols{kFilledSquare, kNoSymbol};
     SetSymbolTypes(symbols);
     char subtitle[160];
@@ -98,8 +110,9 @@ RatingCurvePlot::RatingCurvePlot(ReachDocument& document, CRect place)
 void RatingCurvePlot::Refresh() {
     const Reach& reach = m_document->reach;
     m_sections.clear();
+    // A section whose bed does not fall has no uniform flow, and so no rating curve.
     for (size_t i = 0; i < reach.sections.size(); ++i)
-        if (reach.sections[i].surveyed)
+        if (reach.sections[i].surveyed && reach.BedSlope(i) > 0)
             m_sections.push_back(i);
     // Depths up to half as much again as the deepest flow of the reach.
     double deepest = 0.5;
@@ -126,6 +139,13 @@ void RatingCurvePlot::Refresh() {
         data.SetCurveName(0, "No surveyed section");
     }
     data.UpdatePlotFromData(GetHwnd());
+    // The fitted lines run across the whole plot: the ranges keep to the points.
+    double largest = 0;
+    for (size_t c = 0; c < m_sections.size(); ++c)
+        for (int i = 0; i < kRatingSteps; ++i)
+            largest = std::max(largest, data.m_xValues[c][size_t(i)]);
+    SetXRange(0, largest > 0 ? largest * 1.05 : 1, RangeBothGiven);
+    SetYRange(0, maxDepth * 1.05, RangeBothGiven);
     SetProperty(kPlottingMethod, kBestFitLine);
     std::vector<int> symbols(m_sections.size(), kCircle);
     if (!symbols.empty())
@@ -138,6 +158,6 @@ void RatingCurvePlot::Refresh() {
                      formula.c_str() + " (x: Q, y: depth)")
                         .c_str());
     else
-        SetSubTitle("Tick \"Surveyed\" to add a section");
+        SetSubTitle("Tick \"Surveyed\" to add a section whose bed falls");
     RedrawPlot();
 }
