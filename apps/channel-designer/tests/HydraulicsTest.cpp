@@ -82,3 +82,38 @@ TEST(Hydraulics, RatingCurveRises) {
 }
 
 } // namespace
+
+#include "Reach.h"
+
+namespace {
+
+TEST(ReachProfile, InflowsGatherDownTheReachAndAFlatBedHasNoLevel) {
+    Reach reach;
+    reach.discharge = 2;
+    CrossSection s;
+    s.bedWidth = 2;
+    s.sideSlope = 1;
+    for (auto [chainage, invert] :
+         {std::pair{0.0, 10.0}, {100.0, 9.8}, {200.0, 9.8}, {300.0, 9.5}}) {
+        s.chainage = chainage;
+        s.invert = invert;
+        reach.sections.push_back(s);
+    }
+    reach.sections[1].inflow = {false, 0.5, {}};
+    reach.sections[2].inflow = {true, 0, {{0, 0}, {3, 1.5}, {6, 0.2}}};
+
+    EXPECT_DOUBLE_EQ(reach.DischargeAt(0), 2.0);
+    EXPECT_DOUBLE_EQ(reach.DischargeAt(1), 2.5);
+    EXPECT_DOUBLE_EQ(reach.DischargeAt(3), 4.0); // a hydrograph gives its peak
+    EXPECT_NEAR(reach.BedSlope(0), 0.002, 1e-12);
+    EXPECT_NEAR(reach.BedSlope(3), 0.003, 1e-12); // the last section looks back
+
+    const auto profile = reach.Profile();
+    ASSERT_EQ(profile.size(), 4u);
+    EXPECT_FALSE(profile[1].level) << "the bed from 100 m to 200 m is flat";
+    ASSERT_TRUE(profile[0].level && profile[2].level);
+    EXPECT_NEAR(*profile[0].level - 10.0, *NormalDepth({2, 1}, 2.0, s.Roughness(), 0.002), 1e-12);
+    EXPECT_GT(profile[2].velocity, 0);
+}
+
+} // namespace
