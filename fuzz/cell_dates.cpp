@@ -1,9 +1,10 @@
-// Feeds random texts to the date, integer and floating point cells under one of several
+// Feeds random texts to the date, integer, floating point and curve cells under one of several
 // regional settings. Whatever a cell keeps must read back as itself: a date cell's value shows
 // as a text that parses to the same moment, and a number cell's text is a fixed point of its
-// own normalising.
+// own normalising. A curve cell's text never touches its curve or data set.
 
 #include "cells/GridCellFltCtrl.h"
+#include "cells/GridCellFltXYCrv.h"
 #include "cells/GridCellIntCtrl.h"
 #include "cells/GridCellTimeCtrl.h"
 #include "platform/system/UserSettings.h"
@@ -12,6 +13,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 #include <string>
 
 namespace {
@@ -109,6 +111,44 @@ void CheckFltCell(const CGridCellFltCtrl& cell, int precision, bool single, int 
     Check(CString(again.GetText()) == copy.GetText());
 }
 
+constexpr int kCurveId = 17;
+// A curve cell shows its constant in 15 characters, which leave a signed exponent form 7 digits.
+constexpr double kShownRelative = 1e-6;
+constexpr COLORREF kChoiceColor = 0xFF0000;
+
+// A curve cell's text is either the word of a choice, in blue, or its constant in the cell's
+// form, which reads back as the constant and settles after one more round. A text changes the
+// mode to the constant or not at all, and never touches the stored curve.
+void CheckCurveCell(const CGridCellFltXYCrv& cell, int modeBefore, const std::string& given) {
+    const int mode = cell.GetComboSelection();
+    Check(mode == modeBefore || mode == CGridCellFltXYCrv::CHOICE_CONSTANT);
+    const CString text = cell.GetText();
+
+    CGridCellFltXYCrv probe;
+    probe = cell;
+    probe.SetComboSelection(CGridCellFltXYCrv::CHOICE_TRANSIENT);
+    Check(*reinterpret_cast<const int*>(probe.GetData()) == kCurveId);
+    probe.SetComboSelection(CGridCellFltXYCrv::CHOICE_CONSTANT);
+    const double constant = *reinterpret_cast<const double*>(probe.GetData());
+
+    if (cell.GetTextClr() == kChoiceColor) {
+        Check(text == given.c_str() || text.IsEmpty());
+        return;
+    }
+    Check(cell.GetTextClr() == 0);
+    Check(!text.IsEmpty() && text == probe.GetText());
+    CGridCellFltXYCrv copy;
+    copy.SetText(text);
+    if (std::isfinite(constant)) {
+        const double reread = *reinterpret_cast<const double*>(copy.GetData());
+        Check(std::fabs(reread - constant) <=
+              std::fabs(constant) * kShownRelative + std::numeric_limits<double>::denorm_min());
+    }
+    CGridCellFltXYCrv again;
+    again.SetText(copy.GetText());
+    Check(CString(again.GetText()) == copy.GetText());
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
@@ -146,5 +186,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     fltCell.SetPrecision(precision, single, maxDecimals);
     fltCell.SetText(text.c_str());
     CheckFltCell(fltCell, precision, single, maxDecimals);
+
+    // The curve cell starts in one of its modes, with a curve and a data set stored.
+    CGridCellFltXYCrv curveCell;
+    int curve = kCurveId;
+    const CString dataSet = "set";
+    const int modeBefore = (choice >> 4) % 3;
+    curveCell.SetComboSelection(CGridCellFltXYCrv::CHOICE_TRANSIENT);
+    curveCell.SetData(reinterpret_cast<LPARAM>(&curve));
+    curveCell.SetComboSelection(CGridCellFltXYCrv::CHOICE_DATASET);
+    curveCell.SetData(reinterpret_cast<LPARAM>(&dataSet));
+    curveCell.SetComboSelection(modeBefore);
+    curveCell.SetText(text.c_str());
+    CheckCurveCell(curveCell, modeBefore, text);
     return 0;
 }

@@ -68,6 +68,7 @@
 #include "cells/GridCellCheckbox.h"
 #include "cells/GridCellCombo.h"
 #include "cells/GridCellFltCtrl.h"
+#include "cells/GridCellFltXYCrv.h"
 #include "cells/GridCellIntCtrl.h"
 #include "cells/GridCellTimeCtrl.h"
 #include "cells/GridColorCell.h"

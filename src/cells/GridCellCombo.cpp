@@ -2,28 +2,13 @@
 
 #include "cells/GridCellCombo.h"
 
+#include "cells/CellDropArrow.h"
 #include "cells/InPlaceList.h"
 #include "grid/GridCtrl.h"
 #include "platform/gdi/DC.h"
 #include "platform/system/SystemMetrics.h"
 
 IMPLEMENT_DYNCREATE(CGridCellCombo, CGridCell)
-
-namespace {
-
-// The drop-down arrow is of the platform's scroll-arrow size, cut to fit a smaller rectangle.
-CSize ArrowSize(const CRect& rect) {
-    CSize size(GetSystemMetrics(SM_CXVSCROLL), GetSystemMetrics(SM_CYHSCROLL));
-    if (rect.Width() < size.cx) {
-        size.cx = rect.Width() - 1;
-    }
-    if (rect.Height() < size.cy) {
-        size.cy = rect.Height() - 1;
-    }
-    return size;
-}
-
-} // namespace
 
 void CGridCellCombo::SetOptions(CStringArray& options) {
     m_Options.RemoveAll();
@@ -79,10 +64,9 @@ BOOL CGridCellCombo::Draw(CDC* dc, int row, int col, CRect rect, BOOL eraseBackg
     if (IsEditableAt(row, col) && !IsEditing() && m_bShowDropArrow && rect.Width() > 0 &&
         rect.Height() > 0) {
         // At the top, of the platform's height, also in a tall cell.
-        const CSize arrow = ArrowSize(rect);
-        CRect arrowRect(rect.right - arrow.cx, rect.top, rect.right, rect.top + arrow.cy);
-        dc->DrawFrameControl(&arrowRect, DFC_SCROLL, DFCS_SCROLLDOWN);
-        rect.right -= arrow.cx;
+        const CRect arrow = TopRightDropArrow(rect);
+        DrawDropArrow(dc, arrow);
+        rect.right = arrow.left;
     }
     if (!IsEditing()) {
         return CGridCell::Draw(dc, row, col, rect, eraseBackground);
@@ -100,7 +84,7 @@ BOOL CGridCellCombo::GetTextRect(LPRECT rect) {
     if (rect == nullptr) {
         return FALSE;
     }
-    const int arrowWidth = ArrowSize(CRect(*rect)).cx;
+    const int arrowWidth = DropArrowSize(CRect(*rect)).cx;
     CGridCell::GetTextRect(rect);
     rect->right -= arrowWidth;
     return TRUE;
@@ -139,8 +123,7 @@ BOOL CGridCellCombo::OnClickDown(CPoint point, int row, int col) {
     if (grid == nullptr || !grid->IsCellEditable(row, col) || !grid->GetCellRect(row, col, &rect)) {
         return FALSE;
     }
-    const CSize arrow = ArrowSize(rect);
-    const bool onArrow = point.x > rect.Width() - arrow.cx && point.y < arrow.cy;
+    const bool onArrow = IsOnTopRightDropArrow(point, rect);
     if (!onArrow || !m_bShowDropArrow) {
         m_bOpening = false;
         return FALSE;

@@ -2,6 +2,7 @@
 
 #include "cells/GridCellTimeCtrl.h"
 
+#include "cells/CellDropArrow.h"
 #include "cells/InPlaceTimeCtrl.h"
 #include "grid/GridCtrl.h"
 #include "platform/gdi/DC.h"
@@ -14,20 +15,6 @@ namespace {
 
 constexpr DWORD kSettingBytes = 256;
 constexpr int kFormattedChars = 1024;
-
-// The drop arrow at the top right corner of a cell: the platform's scroll arrow, shrunk to fit
-// a cell smaller than it.
-CSize ArrowSize(const CRect& cell) {
-    int width = GetSystemMetrics(SM_CXVSCROLL);
-    int height = GetSystemMetrics(SM_CYHSCROLL);
-    if (cell.Width() < width) {
-        width = cell.Width() - 1;
-    }
-    if (cell.Height() < height) {
-        height = cell.Height() - 1;
-    }
-    return CSize(width, height);
-}
 
 } // namespace
 
@@ -130,10 +117,9 @@ BOOL CGridCellTimeCtrl::Draw(CDC* dc, int row, int col, CRect rect, BOOL eraseBa
     if (editable && !IsEditing() && m_bShowDropArrow && m_pTime != nullptr && rect.Width() > 0 &&
         rect.Height() > 0) {
         // At the top and of the platform's height, also in a tall cell.
-        const CSize arrow = ArrowSize(rect);
-        CRect arrowRect(rect.right - arrow.cx, rect.top, rect.right, rect.top + arrow.cy);
-        dc->DrawFrameControl(&arrowRect, DFC_SCROLL, DFCS_SCROLLDOWN);
-        rect.right -= arrow.cx;
+        const CRect arrow = TopRightDropArrow(rect);
+        DrawDropArrow(dc, arrow);
+        rect.right = arrow.left;
     }
     if (!IsEditing()) {
         return CGridCell::Draw(dc, row, col, rect, eraseBackground);
@@ -154,7 +140,7 @@ BOOL CGridCellTimeCtrl::GetTextRect(LPRECT rect) {
     if (!CGridCell::GetTextRect(rect)) {
         return FALSE;
     }
-    rect->right -= ArrowSize(CRect(*rect)).cx;
+    rect->right -= DropArrowSize(CRect(*rect)).cx;
     return TRUE;
 }
 
@@ -187,8 +173,7 @@ BOOL CGridCellTimeCtrl::OnClickDown(CPoint point, int row, int col) {
     if (grid == nullptr || !grid->IsCellEditable(row, col) || !grid->GetCellRect(row, col, &rect)) {
         return FALSE;
     }
-    const CSize arrow = ArrowSize(rect);
-    const bool onArrow = point.x > rect.Width() - arrow.cx && point.y < arrow.cy;
+    const bool onArrow = IsOnTopRightDropArrow(point, rect);
     if (!onArrow || !m_bShowDropArrow || m_pTime == nullptr) {
         return FALSE;
     }
