@@ -27,6 +27,10 @@ double Inflow::PeakRate() const {
     return peak;
 }
 
+Inflow Inflow::Hydrograph(double peak) {
+    return {true, 0, {{0.0, 0.0}, {2.0, peak}, {6.0, 0.0}}};
+}
+
 double CrossSection::Roughness() const {
     const auto& linings = Linings();
     return lining >= 0 && size_t(lining) < linings.size() ? linings[size_t(lining)].roughness

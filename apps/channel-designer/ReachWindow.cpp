@@ -2,14 +2,21 @@
 
 #include "ReachWindow.h"
 
+#include "HydrographDialog.h"
+
 #include "grid/GridNotify.h"
 #include "platform/window/WindowApi.h"
+
+#include <cstdio>
 
 namespace {
 
 constexpr UINT kSheetId = 100;
 // Posted when a cell's edit ends: by the time it arrives the cell holds its final value.
 constexpr UINT WM_READ_SHEET = WM_APP + 1;
+// Posted by the button of an inflow cell, with the row: the hydrograph dialog opens once the
+// button has gone.
+constexpr UINT WM_EDIT_HYDROGRAPH = WM_APP + 3;
 
 } // namespace
 
@@ -51,6 +58,13 @@ size_t ReachWindow::FocusSection() const {
 
 BOOL ReachWindow::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
     const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+    const auto* cell = reinterpret_cast<const GV_NMGRID*>(lParam);
+    if (header->idFrom == kSheetId && header->code == UINT(GV_NOTIFY_CELLBUTTON) &&
+        cell->iColumn == SectionSheet::kInflow) {
+        PostMessage(WM_EDIT_HYDROGRAPH, WPARAM(cell->iRow));
+        *result = 0;
+        return TRUE;
+    }
     if (header->idFrom == kSheetId && (header->code == UINT(GV_NOTIFY_ENDLABELEDIT) ||
                                        header->code == UINT(GV_NOTIFY_CELLBUTTON))) {
         PostMessage(WM_READ_SHEET);
@@ -65,6 +79,10 @@ LRESULT ReachWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         ReadSheet();
         return 0;
     }
+    if (message == WM_EDIT_HYDROGRAPH) {
+        EditHydrograph(int(wParam));
+        return 0;
+    }
     return CMDIChildWnd::WindowProc(message, wParam, lParam);
 }
 
@@ -73,6 +91,26 @@ void ReachWindow::ReadSheet() {
     if (read.sections == m_document->reach.sections)
         return;
     m_document->reach = std::move(read);
+    m_sheet.Show(m_document->reach); // a new hydrograph takes its number in its cell
+    m_document->Changed();
+}
+
+void ReachWindow::EditHydrograph(int row) {
+    if (row < 1 || size_t(row) > m_document->reach.sections.size())
+        return;
+    const size_t section = size_t(row - 1);
+    const CrossSection& s = m_document->reach.sections[section];
+    const Inflow start =
+        s.inflow.isCurve ? s.inflow
+                         : Inflow::Hydrograph(s.inflow.PeakRate() > 0 ? s.inflow.PeakRate() : 1.0);
+    char name[64];
+    std::snprintf(name, sizeof name, "section %d (%.0f m)", row, s.chainage);
+    const HWND self = m_hWnd;
+    HydrographDialog dialog(start, name, this);
+    if (dialog.DoModal() != IDOK || !::IsWindow(self))
+        return; // the reach may have closed while the dialog was open
+    m_document->reach.sections[section].inflow = dialog.Result();
+    m_sheet.Show(m_document->reach);
     m_document->Changed();
 }
 

@@ -31,6 +31,8 @@ protected:
 private:
     // Takes what the sheet holds into the reach, once the cell's edit has settled.
     void ReadSheet();
+    // Opens the hydrograph of the inflow in `row`; a constant inflow becomes one on OK.
+    void EditHydrograph(int row);
 
     std::unique_ptr<ReachDocument> m_document;
     SectionSheet m_sheet;

@@ -5,11 +5,13 @@
 #include "cells/GridCellCheckbox.h"
 #include "cells/GridCellCombo.h"
 #include "cells/GridCellFltCtrl.h"
+#include "cells/GridCellFltXYCrv.h"
 #include "cells/GridCellTimeCtrl.h"
 #include "cells/GridColorCell.h"
 #include "platform/system/SysColors.h"
 #include "support/FormatDouble.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace {
@@ -19,9 +21,9 @@ struct ColumnLook {
     int width;
 };
 constexpr ColumnLook kLooks[SectionSheet::kColumns] = {
-    {"Sec.", 38},       {"Chainage (m)", 84},  {"Invert (m)", 76}, {"Bed width (m)", 88},
-    {"Side slope", 70}, {"Lining", 156},       {"Lined", 86},      {"Surveyed", 64},
-    {"Colour", 54},     {"Inflow (m3/s)", 90}, {"Depth (m)", 70},  {"Level (m)", 76},
+    {"Sec.", 38},       {"Chainage (m)", 84},   {"Invert (m)", 76}, {"Bed width (m)", 88},
+    {"Side slope", 70}, {"Lining", 156},        {"Lined", 86},      {"Surveyed", 64},
+    {"Colour", 54},     {"Inflow (m3/s)", 112}, {"Depth (m)", 70},  {"Level (m)", 76},
 };
 
 struct Precision {
@@ -31,8 +33,7 @@ struct Precision {
 constexpr Precision kPrecisions[] = {{SectionSheet::kChainage, 1},
                                      {SectionSheet::kInvert, 3},
                                      {SectionSheet::kBedWidth, 2},
-                                     {SectionSheet::kSideSlope, 2},
-                                     {SectionSheet::kInflow, 3}};
+                                     {SectionSheet::kSideSlope, 2}};
 
 CString Number(double value, int decimals) {
     return xgFormatDouble(value, decimals, 0, 0);
@@ -43,6 +44,11 @@ double ReadNumber(const CString& text, double fallback) {
     const double value = std::strtod(text.GetString(), &end);
     return end != text.GetString() ? value : fallback;
 }
+
+// The inflow cell's choices; its curve number is the section's index.
+constexpr const char* kConstantChoice = "<constant>";
+constexpr const char* kHydrographChoice = "<hydrograph>";
+constexpr int kHydrographIndex = 1;
 
 COleDateTime ToOleDate(const CalendarDate& date) {
     return COleDateTime(date.year, date.month, date.day, 0, 0, 0);
@@ -79,6 +85,11 @@ void SectionSheet::MakeRow(int row) {
     }
     lining->SetOptions(names);
     lining->SetStyle(CBS_DROPDOWNLIST);
+    SetCellType(row, kInflow, RUNTIME_CLASS(CGridCellFltXYCrv));
+    CStringArray choices;
+    choices.Add(kConstantChoice);
+    choices.Add(kHydrographChoice);
+    static_cast<CGridCellFltXYCrv*>(GetCell(row, kInflow))->SetOptions(choices);
     SetCellType(row, kLined, RUNTIME_CLASS(CGridCellTimeCtrl));
     static_cast<CGridCellTimeCtrl*>(GetCell(row, kLined))->SetShowTime(false);
     SetCellType(row, kSurveyed, RUNTIME_CLASS(CGridCellCheckbox));
@@ -90,11 +101,14 @@ void SectionSheet::MakeRow(int row) {
 }
 
 void SectionSheet::Show(const Reach& reach) {
-    SetRowCount(int(reach.sections.size()) + 1);
+    if (GetRowCount() != int(reach.sections.size()) + 1) {
+        SetRowCount(int(reach.sections.size()) + 1);
+        for (size_t i = 0; i < reach.sections.size(); ++i)
+            MakeRow(RowOf(i));
+    }
     for (size_t i = 0; i < reach.sections.size(); ++i) {
         const int row = RowOf(i);
         const CrossSection& s = reach.sections[i];
-        MakeRow(row);
         SetItemText(row, kChainage, Number(s.chainage, 1));
         SetItemText(row, kInvert, Number(s.invert, 3));
         SetItemText(row, kBedWidth, Number(s.bedWidth, 2));
@@ -104,7 +118,16 @@ void SectionSheet::Show(const Reach& reach) {
         SetItemText(row, kLined, FormatDateTime(&lined, kFormatDate));
         SetItemData(row, kSurveyed, s.surveyed ? 1 : 0);
         SetItemBkColour(row, kColour, COLORREF(s.colour));
-        SetItemText(row, kInflow, Number(s.inflow.PeakRate(), 3));
+        auto* inflow = static_cast<CGridCellFltXYCrv*>(GetCell(row, kInflow));
+        if (s.inflow.isCurve) {
+            int curve = int(i);
+            inflow->SetComboSelection(kHydrographIndex);
+            inflow->SetData(LPARAM(&curve));
+        } else {
+            double rate = s.inflow.constant;
+            inflow->SetComboSelection(0);
+            inflow->SetData(LPARAM(&rate));
+        }
     }
     ShowProfile(reach);
 }
@@ -133,9 +156,16 @@ CrossSection SectionSheet::ReadRow(int row, const CrossSection& before) const {
         s.lined = {lined->GetYear(), lined->GetMonth(), lined->GetDay()};
     s.surveyed = GetItemData(row, kSurveyed) != 0;
     s.colour = GetItemBkColour(row, kColour);
-    const double inflow = ReadNumber(GetItemText(row, kInflow), s.inflow.PeakRate());
-    if (inflow != s.inflow.PeakRate())
-        s.inflow = Inflow{false, inflow, {}};
+    const auto* inflow = static_cast<const CGridCellFltXYCrv*>(GetCell(row, kInflow));
+    if (inflow->GetComboSelection() == kHydrographIndex) {
+        // A hydrograph picked for a constant inflow starts from it; the user shapes it with
+        // the cell's button.
+        if (!s.inflow.isCurve)
+            s.inflow = Inflow::Hydrograph(s.inflow.constant > 0 ? s.inflow.constant : 1.0);
+    } else if (const auto* rate = reinterpret_cast<const double*>(inflow->GetData())) {
+        if (s.inflow.isCurve || *rate != s.inflow.constant)
+            s.inflow = Inflow{false, std::max(0.0, *rate), {}};
+    }
     return s;
 }
 

@@ -6,12 +6,14 @@
 
 #include "Application.h"
 #include "FlowDialog.h"
+#include "HydrographDialog.h"
 #include "OpenReachDialog.h"
 #include "ReachFile.h"
 #include "ReachPlots.h"
 
 #include "cells/ColorChooserDlg.h"
 #include "cells/GridCellCheckbox.h"
+#include "cells/GridCellFltXYCrv.h"
 #include "plot/PlotList.h"
 #include "support/TempFiles.h"
 
@@ -173,6 +175,37 @@ TEST_F(ScriptedRun, EditingCellsOfEveryTypeMovesThePlotsAndTheRecoveryCopy) {
     EXPECT_DOUBLE_EQ(document.reach.sections[4].inflow.PeakRate(), 2.4);
     EXPECT_DOUBLE_EQ(levelAt(3), above);
     EXPECT_GT(levelAt(5), below + 0.05);
+    // A hydrograph: picked from the list of section 6's inflow cell, then shaped in the dialog
+    // that the cell's button opens. Its peak joins the flow from there on.
+    CGridCellFltXYCrv* inflowCell =
+        static_cast<CGridCellFltXYCrv*>(m_reach->Sheet().GetCell(6, Column::kInflow));
+    CRect inflow;
+    m_reach->Sheet().GetCellRect(6, Column::kInflow, &inflow);
+    m_ui.Click(sheet, inflowCell->GetBotRect(inflow).CenterPoint());
+    m_ui.PressKey(VK_DOWN); // the list opens on no choice: the first is <constant>
+    m_ui.PressKey(VK_DOWN);
+    m_ui.PressKey(VK_RETURN);
+    EXPECT_EQ(m_reach->Sheet().GetItemText(6, Column::kInflow), "<hydrograph>");
+    EXPECT_EQ(document.reach.sections[5].inflow, Inflow::Hydrograph(1.0));
+    const double beforePeak = levelAt(6);
+    dialogs.Next()
+        .Run([&](CDialog& dialog, UiDriver& driver) {
+            CGridCtrl& table = static_cast<HydrographDialog&>(dialog).Table();
+            CRect rate;
+            table.GetCellRect(2, 1, &rate);
+            driver.Click(table, rate.CenterPoint());
+            driver.Type("3.5\r");
+            SaveScreen(dialog, "05-hydrograph");
+        })
+        .Press(IDOK);
+    inflowCell = static_cast<CGridCellFltXYCrv*>(m_reach->Sheet().GetCell(6, Column::kInflow));
+    m_ui.Click(sheet, inflowCell->GetTopRect(inflow).CenterPoint());
+    ASSERT_EQ(dialogs.Count(), 2);
+    EXPECT_EQ(dialogs.Shown()[1].title, "Inflow hydrograph");
+    EXPECT_TRUE(document.reach.sections[5].inflow.isCurve);
+    EXPECT_DOUBLE_EQ(document.reach.sections[5].inflow.PeakRate(), 3.5);
+    EXPECT_GT(levelAt(6), beforePeak);
+
     m_ui.Click(sheet, CellCentre(7, Column::kChainage));
     SaveScreen(*m_frame, "04-cells-edited");
 
