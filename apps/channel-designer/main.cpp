@@ -1,7 +1,7 @@
 // Channel Designer: open channels and culvert approaches, designed by Manning's equation, on
 // ORVAUtil. With a display it opens its main window and runs until the user closes it;
-// headless it opens the reaches it is given (an example when none) and, with --out, saves a
-// picture of its main window.
+// headless it opens the reaches it is given (an example when none, unless --empty) and, with
+// --out, saves a picture of its main window.
 
 #include "Application.h"
 #include "MainFrame.h"
@@ -22,6 +22,7 @@ struct Options {
     std::vector<std::string> reaches;
     std::string picture; // headless: where the main window's PNG goes
     bool headless = false;
+    bool empty = false; // no example reach at start
 };
 
 bool ParseOptions(int argc, char** argv, Options& options) {
@@ -31,11 +32,14 @@ bool ParseOptions(int argc, char** argv, Options& options) {
             options.picture = argv[++i];
         else if (arg == "--headless")
             options.headless = true;
+        else if (arg == "--empty")
+            options.empty = true;
         else if (!arg.empty() && arg[0] != '-')
             options.reaches.push_back(arg);
         else {
-            std::fprintf(stderr, "usage: channel-designer [--headless] [--out picture.png] "
-                                 "[reach files...]\n");
+            std::fprintf(stderr,
+                         "usage: channel-designer [--headless] [--empty] [--out picture.png] "
+                         "[reach files...]\n");
             return false;
         }
     }
@@ -67,7 +71,7 @@ int main(int argc, char** argv) {
     MainFrame frame(folder);
     if (!frame.CreateFrame(CRect(0, 0, 1200, 820)))
         return 1;
-    if (options.reaches.empty())
+    if (options.reaches.empty() && !options.empty)
         options.reaches.push_back(frame.ExamplePath(1));
     for (const std::string& reach : options.reaches)
         frame.OpenReach(reach);
