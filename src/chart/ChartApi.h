@@ -62,7 +62,12 @@ ORVA_API int ChartStore(HWND chart, const char* path);
 ORVA_API int ChartLoad(HWND chart, const char* path);
 ORVA_API HWND ChartCreateFromFile(const char* path, HWND parent, RECT* clientRect, int controlId);
 
-// The chart's own dialogs run modally; they answer at once until the dialogs exist.
+// The chart's own dialogs (their controls in ChartDialogIds.h). Each runs modally, over the
+// chart's top-level window, and returns once the user has closed it; with nobody to answer, as
+// on the headless host, it is cancelled at once. Customize answers 1 after OK, when it has
+// written the chart's properties, redrawn it and sent CHARTN_CUSTOMIZED; export answers 1 once
+// the chart is written; the maximised view answers 1 when closed. 0 for a window that is no
+// chart, and for Cancel, which changes nothing.
 ORVA_API int ChartCustomizeDialog(HWND chart);
 ORVA_API int ChartExportDialog(HWND chart);
 ORVA_API int ChartMaximize(HWND chart);

@@ -1,5 +1,7 @@
 #include "chart/ChartApi.h"
 
+#include "FakeSpoolers.h"
+
 #include "platform/host/Clipboard.h"
 #include "platform/host/GlobalMemory.h"
 
@@ -11,6 +13,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -25,6 +28,33 @@ std::string TempPath(const char* name) {
     return std::string(directory ? directory : "/tmp") + "/chart-window-test-" + name;
 }
 
+// Points (0, 0) .. (10, 100) on axes fixed to those ranges.
+void FillChart(HWND chart) {
+    ChartSetInt(chart, 2115, 1);
+    ChartSetInt(chart, 2120, 11);
+    for (int i = 0; i <= 10; ++i) {
+        const double x = i, y = 10.0 * i;
+        ChartSetElement(chart, 3013, i, &x);
+        ChartSetElement(chart, 3014, i, &y);
+    }
+    const int colour = int(kCurveColour);
+    ChartSetElement(chart, 2190, 0, &colour);
+    const double low = 0, high = 100, xHigh = 10;
+    ChartSetInt(chart, 3050, 3);
+    ChartSetArray(chart, 3055, &low, 1);
+    ChartSetArray(chart, 3060, &high, 1);
+    ChartSetInt(chart, 3615, 3);
+    ChartSetArray(chart, 3620, &low, 1);
+    ChartSetArray(chart, 3625, &xHigh, 1);
+    ChartRedraw(chart);
+}
+
+POINT PixelOf(HWND chart, double gx, double gy) {
+    int axis = 0, x = 0, y = 0;
+    EXPECT_EQ(ChartPixelToGraph(chart, &axis, &x, &y, &gx, &gy, true, false, false), 1);
+    return {x, y};
+}
+
 class ChartWindowTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -33,33 +63,12 @@ protected:
         RECT rect{0, 0, 640, 480};
         chart = ChartCreate(0, 0, &rect, parent.m_hWnd, kChartId);
         ASSERT_NE(chart, nullptr);
-        // Points (0, 0) .. (10, 100) on axes fixed to those ranges.
-        ChartSetInt(chart, 2115, 1);
-        ChartSetInt(chart, 2120, 11);
-        for (int i = 0; i <= 10; ++i) {
-            const double x = i, y = 10.0 * i;
-            ChartSetElement(chart, 3013, i, &x);
-            ChartSetElement(chart, 3014, i, &y);
-        }
-        const int colour = int(kCurveColour);
-        ChartSetElement(chart, 2190, 0, &colour);
-        const double low = 0, high = 100, xHigh = 10;
-        ChartSetInt(chart, 3050, 3);
-        ChartSetArray(chart, 3055, &low, 1);
-        ChartSetArray(chart, 3060, &high, 1);
-        ChartSetInt(chart, 3615, 3);
-        ChartSetArray(chart, 3620, &low, 1);
-        ChartSetArray(chart, 3625, &xHigh, 1);
-        ChartRedraw(chart);
+        FillChart(chart);
         driver.Pump();
     }
     void TearDown() override { parent.DestroyWindow(); }
 
-    POINT PixelOf(double gx, double gy) {
-        int axis = 0, x = 0, y = 0;
-        EXPECT_EQ(ChartPixelToGraph(chart, &axis, &x, &y, &gx, &gy, true, false, false), 1);
-        return {x, y};
-    }
+    POINT PixelOf(double gx, double gy) { return ::PixelOf(chart, gx, gy); }
 
     CWnd parent;
     HWND chart = nullptr;
@@ -110,6 +119,51 @@ TEST_F(ChartWindowTest, DraggingABoxZoomsAndTheFrameCommandUndoesIt) {
     x = origin.x, y = origin.y;
     ChartPixelToGraph(chart, &axis, &x, &y, &gx, &gy, false, false, false);
     EXPECT_NEAR(gx, 0, 0.1);
+}
+
+TEST_F(ChartWindowTest, TwoChartsDraggedAtOnceEachZoomToTheirOwnBox) {
+    CWnd otherParent;
+    ASSERT_TRUE(otherParent.CreateEx(0, nullptr, "other", WS_POPUP | WS_VISIBLE, 700, 0, 640, 480,
+                                     nullptr, nullptr));
+    RECT rect{0, 0, 640, 480};
+    HWND other = ChartCreate(0, 0, &rect, otherParent.m_hWnd, kChartId);
+    ASSERT_NE(other, nullptr);
+    FillChart(other);
+    driver.Pump();
+    const POINT otherFrom = ::PixelOf(other, 1, 30), otherTo = ::PixelOf(other, 3, 10);
+
+    NotificationRecorder recorder(parent.m_hWnd), otherRecorder(otherParent.m_hWnd);
+    // Two drags interleaved, as a program forwarding input to both charts would make them:
+    // one pointer cannot, since a press captures the mouse.
+    const auto send = [](HWND window, UINT message, POINT at) {
+        SendMessage(window, message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON,
+                    MAKELPARAM(at.x, at.y));
+    };
+    const POINT from = PixelOf(6, 90), to = PixelOf(9, 60);
+    send(chart, WM_LBUTTONDOWN, from);
+    send(other, WM_LBUTTONDOWN, otherFrom);
+    send(other, WM_MOUSEMOVE, otherTo);
+    send(chart, WM_MOUSEMOVE, to);
+    send(chart, WM_LBUTTONUP, to);
+    send(other, WM_LBUTTONUP, otherTo);
+    driver.Pump();
+
+    EXPECT_EQ(recorder.Commands(CHARTN_ZOOMIN).size(), 1u);
+    EXPECT_EQ(otherRecorder.Commands(CHARTN_ZOOMIN).size(), 1u);
+    // The graph X at the middle of each window lies inside that chart's own box.
+    const auto middleX = [](HWND window) {
+        RECT client;
+        GetClientRect(window, &client);
+        int axis = 0, x = client.right / 2, y = client.bottom / 2;
+        double gx = 0, gy = 0;
+        ChartPixelToGraph(window, &axis, &x, &y, &gx, &gy, false, false, false);
+        return gx;
+    };
+    EXPECT_GT(middleX(chart), 6.0);
+    EXPECT_LT(middleX(chart), 9.0);
+    EXPECT_GT(middleX(other), 1.0);
+    EXPECT_LT(middleX(other), 3.0);
+    otherParent.DestroyWindow();
 }
 
 TEST_F(ChartWindowTest, ChartFilesRoundTripAndBadFilesChangeNothing) {
@@ -207,3 +261,44 @@ TEST_F(ChartWindowTest, CallsOnAGoneChartFail) {
 }
 
 } // namespace
+
+namespace {
+
+std::string FileStart(const std::string& path, size_t length) {
+    std::ifstream in(path, std::ios::binary);
+    std::string bytes(length, '\0');
+    in.read(bytes.data(), std::streamsize(length));
+    bytes.resize(size_t(in.gcount()));
+    return bytes;
+}
+
+} // namespace
+
+TEST_F(ChartWindowTest, PrintingHandsThePdfToTheSpoolerAndFallsBackToLpr) {
+    {
+        FakeSpoolers spoolers;
+        spoolers.Add("lp", 0);
+        spoolers.Add("lpr", 0);
+        ASSERT_EQ(ChartPrint(chart, 1, 0), 1);
+        const std::string printed = ChartLastPrintFile();
+        EXPECT_EQ(FileStart(printed, 5), "%PDF-");
+        EXPECT_EQ(spoolers.Spooled(), "lp " + printed + "\n");
+        std::remove(printed.c_str());
+    }
+    {
+        FakeSpoolers spoolers;
+        spoolers.Add("lp", 1); // lp refuses the job: lpr takes it
+        spoolers.Add("lpr", 0);
+        ASSERT_EQ(ChartPrint(chart, 1, 0), 1);
+        const std::string printed = ChartLastPrintFile();
+        EXPECT_EQ(spoolers.Spooled(), "lp " + printed + "\nlpr " + printed + "\n");
+        std::remove(printed.c_str());
+    }
+    {
+        FakeSpoolers none; // no spooler at all: the document is still made
+        ASSERT_EQ(ChartPrint(chart, 1, 0), 1);
+        EXPECT_EQ(FileStart(ChartLastPrintFile(), 5), "%PDF-");
+        std::remove(ChartLastPrintFile());
+    }
+    EXPECT_EQ(ChartPrint(nullptr, 1, 0), 0);
+}
