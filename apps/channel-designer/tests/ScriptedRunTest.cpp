@@ -14,6 +14,7 @@
 #include "cells/ColorChooserDlg.h"
 #include "cells/GridCellCheckbox.h"
 #include "cells/GridCellFltXYCrv.h"
+#include "platform/testing/MessageBoxResponder.h"
 #include "plot/PlotList.h"
 #include "support/TempFiles.h"
 
@@ -329,6 +330,65 @@ TEST_F(ScriptedRun, ClosingAReachClosesItsPlots) {
     ChooseFromMenuBar(0, "Close Window");
     EXPECT_EQ(m_frame->Reaches().size(), 1u);
     EXPECT_EQ(g_plotList.NumPlots(), 2);
+}
+
+TEST_F(ScriptedRun, EveryMenuOfTheBarOpensAndItsCommandsAct) {
+    ChooseFromMenuBar(0, "Open Example: East Drain");
+    ASSERT_EQ(m_frame->Reaches().size(), 1u);
+    m_reach = m_frame->Reaches()[0];
+    ReachDocument& document = m_reach->Document();
+
+    const struct {
+        const char* screen;
+        std::vector<std::string> items;
+    } bar[] = {
+        {"09-menu-file", {"Open Reach...", "Open Example: Mill Creek", "Close Window", "Exit"}},
+        {"10-menu-reach", {"Flow Calculator...", "Long Profile", "Rating Curves"}},
+        {"11-menu-window", {"Cascade", "Tile", "Next Window"}},
+        {"12-menu-help", {"Contents", "Analysis", "Flow Calculator", "About Channel Designer..."}},
+    };
+    for (int i = 0; i < int(std::size(bar)); ++i) {
+        MenuResponder menus;
+        menus.Interact([&](const ShownPopupMenu&) {
+            SaveScreen(*m_frame, bar[i].screen);
+            EndMenu();
+        });
+        RECT item;
+        GetMenuItemRect(*m_frame, ::GetMenu(*m_frame), UINT(i), &item);
+        CPoint at((item.left + item.right) / 2, (item.top + item.bottom) / 2);
+        m_frame->ScreenToClient(&at);
+        m_ui.Click(*m_frame, at);
+        ASSERT_EQ(menus.Count(), 1) << bar[i].screen;
+        for (const std::string& title : bar[i].items)
+            EXPECT_TRUE(MenuResponder::FindItem(menus.Last().items, title)) << title;
+    }
+
+    // A plot closed by the user is deleted with its window, and the Reach menu brings it back.
+    const HWND profileWindow = ::GetParent(document.ProfilePlot()->GetHwnd());
+    ::SendMessage(profileWindow, WM_CLOSE, 0, 0);
+    m_ui.Pump();
+    EXPECT_FALSE(::IsWindow(profileWindow));
+    EXPECT_EQ(document.ProfilePlot(), nullptr);
+    EXPECT_EQ(g_plotList.NumPlots(), 1);
+    ChooseFromMenuBar(1, "Long Profile");
+    ASSERT_NE(document.ProfilePlot(), nullptr);
+    EXPECT_EQ(DataOf(document.ProfilePlot()).y[LongProfilePlot::kBed].size(), 5u);
+
+    // Tile lays the three windows side by side, none over another.
+    ChooseFromMenuBar(2, "Tile");
+    CRect sheet, profile, rating, overlap;
+    m_reach->GetWindowRect(&sheet);
+    ::GetWindowRect(::GetParent(document.ProfilePlot()->GetHwnd()), &profile);
+    ::GetWindowRect(::GetParent(document.RatingPlot()->GetHwnd()), &rating);
+    EXPECT_FALSE(overlap.IntersectRect(&sheet, &profile));
+    EXPECT_FALSE(overlap.IntersectRect(&sheet, &rating));
+    EXPECT_FALSE(overlap.IntersectRect(&profile, &rating));
+    SaveScreen(*m_frame, "13-tiled");
+
+    MessageBoxResponder boxes;
+    ChooseFromMenuBar(3, "About Channel Designer...");
+    ASSERT_EQ(boxes.Count(), 1);
+    EXPECT_NE(boxes.LastText().find("Manning's equation"), std::string::npos);
 }
 
 // The temporary directories of runs that died are cleaned at start; the live run's stays.
