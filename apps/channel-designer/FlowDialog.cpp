@@ -6,7 +6,8 @@
 #include "platform/window/DialogTemplate.h"
 #include "platform/window/WindowApi.h"
 #include "platform/window/WindowStyles.h"
-#include "support/FormatDouble.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -20,13 +21,14 @@ constexpr Field kFields[] = {
     {FlowDialog::kSideSlopeId, "Side slope (H:1V)", 62},
     {FlowDialog::kRoughnessId, "Manning's n", 78},
     {FlowDialog::kSlopeId, "Bed slope (m/m)", 94},
-    {FlowDialog::kDischargeId, "Discharge (m3/s)", 134},
-    {FlowDialog::kDepthId, "Depth (m)", 150},
-    {FlowDialog::kVelocityId, "Velocity (m/s)", 166},
-    {FlowDialog::kDesignId, "Design discharge of the reach (m3/s)", 208},
+    {FlowDialog::kBarrelsId, "Barrels", 110},
+    {FlowDialog::kDischargeId, "Discharge, all barrels (m3/s)", 150},
+    {FlowDialog::kDepthId, "Depth (m)", 166},
+    {FlowDialog::kVelocityId, "Velocity (m/s)", 182},
+    {FlowDialog::kDesignId, "Design discharge of the reach (m3/s)", 224},
 };
 constexpr int kWidth = 250;
-constexpr int kHeight = 252;
+constexpr int kHeight = 268;
 constexpr int kFieldLeft = 150;
 
 void RegisterTemplate() {
@@ -45,12 +47,12 @@ void RegisterTemplate() {
                      "Channel",
                      FlowDialog::kChannelGroupId,
                      WS_VISIBLE | BS_GROUPBOX,
-                     {4, 30, kWidth - 4, 112}});
+                     {4, 30, kWidth - 4, 128}});
     items.push_back({"Button",
                      "Uniform flow",
                      FlowDialog::kFlowGroupId,
                      WS_VISIBLE | BS_GROUPBOX,
-                     {4, 118, kWidth - 4, 198}});
+                     {4, 134, kWidth - 4, 214}});
     UINT labelId = FlowDialog::kFirstLabelId + 1;
     for (const Field& field : kFields)
         items.push_back({"Static",
@@ -59,7 +61,7 @@ void RegisterTemplate() {
                          WS_VISIBLE,
                          {field.id == FlowDialog::kDesignId ? 8 : 12, field.top + 2, kFieldLeft - 4,
                           field.top + 12}});
-    items.push_back({"Static", "", FlowDialog::kFroudeId, WS_VISIBLE, {12, 184, kWidth - 10, 194}});
+    items.push_back({"Static", "", FlowDialog::kFroudeId, WS_VISIBLE, {12, 200, kWidth - 10, 210}});
     items.push_back({"Button",
                      "OK",
                      IDOK,
@@ -91,7 +93,7 @@ FlowDialog::FlowDialog(const Reach& reach, size_t section, CWnd* parent)
 
 BOOL FlowDialog::OnInitDialog() {
     const BOOL result = CDialogORVA::OnInitDialog();
-    CEditORVAFloat* edits[] = {&bedWidth,  &sideSlope, &roughness, &slope,
+    CEditORVAFloat* edits[] = {&bedWidth,  &sideSlope, &roughness, &slope, &barrels,
                                &discharge, &depth,     &velocity,  &design};
     for (size_t i = 0; i < std::size(edits); ++i) {
         RECT r{kFieldLeft, kFields[i].top, kWidth - 12, kFields[i].top + 12};
@@ -103,6 +105,7 @@ BOOL FlowDialog::OnInitDialog() {
         edits[i]->SetFont(GetFont(), FALSE);
         edits[i]->SetMinAndMax(0.0, 1.0e6);
     }
+    barrels.SetMinAndMax(1, 20);
     roughness.SetMaxPrec(4);
     slope.SetMaxPrec(6);
     for (CEditORVAFloat* e : {&discharge, &depth, &velocity, &design})
@@ -130,6 +133,7 @@ void FlowDialog::LoadSection(size_t section) {
     sideSlope.SetValue(s.sideSlope, -1);
     roughness.SetValue(s.Roughness(), -1);
     slope.SetValue(m_reach.BedSlope(section), -1);
+    barrels.SetValue(s.barrels);
     discharge.SetValue(m_reach.DischargeAt(section), -1);
     Recompute(kDischargeId);
 }
@@ -139,9 +143,11 @@ hydraulics::Trapezoid FlowDialog::Channel() const {
 }
 
 void FlowDialog::Recompute(UINT changed) {
+    // One barrel carries its share of the discharge.
     const hydraulics::Trapezoid channel = Channel();
     const double n = roughness.GetValue();
     const double s = slope.GetValue();
+    const int shares = std::max(1, barrels.GetValue());
     std::optional<double> h;
     switch (changed) {
     case kDepthId:
@@ -151,7 +157,7 @@ void FlowDialog::Recompute(UINT changed) {
         h = hydraulics::DepthForVelocity(channel, velocity.GetValue(), n, s);
         break;
     default: // the discharge or the channel changed
-        h = hydraulics::NormalDepth(channel, discharge.GetValue(), n, s);
+        h = hydraulics::NormalDepth(channel, discharge.GetValue() / shares, n, s);
         break;
     }
     CString froude = "No uniform flow: the bed must fall and the channel needs width.";
@@ -161,7 +167,7 @@ void FlowDialog::Recompute(UINT changed) {
         if (changed != kVelocityId)
             velocity.SetValue(hydraulics::Velocity(channel, *h, n, s), -1);
         if (changed != kDischargeId)
-            discharge.SetValue(hydraulics::Discharge(channel, *h, n, s), -1);
+            discharge.SetValue(shares * hydraulics::Discharge(channel, *h, n, s), -1);
         const double fr = hydraulics::FroudeNumber(channel, *h, n, s);
         froude.Format("Froude number %.2f: %s flow, top width %.2f m.", fr,
                       fr < 1 ? "subcritical" : "supercritical", hydraulics::TopWidth(channel, *h));

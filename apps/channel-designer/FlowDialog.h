@@ -1,14 +1,16 @@
 #pragma once
 
 // The flow calculator: uniform flow at one section of a reach. The section's channel fills the
-// upper fields; discharge, depth and velocity recompute each other as the user types any one
-// of them, and the discharge field is bound to the reach's design discharge, which OK applies.
-// The dialog can be made larger, and its Help button opens the help at "Run Analysis".
+// upper fields (its barrels share the flow equally); discharge, depth and velocity recompute each
+// other as the user types any one of them, and the discharge field is bound to the reach's design
+// discharge, which OK applies. The dialog can be made larger, and its Help button opens the help at
+// "Run Analysis".
 
 #include "Reach.h"
 
 #include "controls/DialogORVA.h"
 #include "controls/EditORVAFloat.h"
+#include "controls/EditORVAInt.h"
 
 class FlowDialog : public CDialogORVA {
 public:
@@ -19,6 +21,7 @@ public:
         kSideSlopeId,
         kRoughnessId,
         kSlopeId,
+        kBarrelsId,
         kDischargeId,
         kDepthId,
         kVelocityId,
@@ -36,6 +39,7 @@ public:
     double DesignDischarge() const { return m_design; }
 
     CEditORVAFloat bedWidth, sideSlope, roughness, slope;
+    CEditORVAInt barrels;
     CEditORVAFloat discharge, depth, velocity, design;
 
 protected:

@@ -86,16 +86,4 @@ std::optional<double> DepthForVelocity(const Trapezoid& channel, double velocity
     return SolveRising([&](double h) { return Velocity(channel, h, roughness, slope); }, velocity);
 }
 
-std::vector<RatingPoint> RatingCurve(const Trapezoid& channel, double roughness, double slope,
-                                     double maxDepth, int steps) {
-    std::vector<RatingPoint> curve;
-    if (steps <= 0 || !(maxDepth > 0))
-        return curve;
-    for (int i = 1; i <= steps; ++i) {
-        const double depth = maxDepth * i / steps;
-        curve.push_back({depth, Discharge(channel, depth, roughness, slope)});
-    }
-    return curve;
-}
-
 } // namespace hydraulics

@@ -36,12 +36,4 @@ std::optional<double> NormalDepth(const Trapezoid& channel, double discharge, do
 std::optional<double> DepthForVelocity(const Trapezoid& channel, double velocity, double roughness,
                                        double slope);
 
-struct RatingPoint {
-    double depth;
-    double discharge;
-};
-// Q(h) at `steps` even depths from maxDepth / steps to maxDepth.
-std::vector<RatingPoint> RatingCurve(const Trapezoid& channel, double roughness, double slope,
-                                     double maxDepth, int steps);
-
 } // namespace hydraulics

@@ -37,6 +37,16 @@ double CrossSection::Roughness() const {
                                                           : linings.front().roughness;
 }
 
+double CrossSection::Discharge(double depth, double slope) const {
+    return barrels > 0 ? barrels * hydraulics::Discharge(Shape(), depth, Roughness(), slope) : 0;
+}
+
+std::optional<double> CrossSection::NormalDepth(double discharge, double slope) const {
+    if (barrels < 1)
+        return std::nullopt;
+    return hydraulics::NormalDepth(Shape(), discharge / barrels, Roughness(), slope);
+}
+
 double Reach::BedSlope(size_t section) const {
     if (sections.size() < 2 || section >= sections.size())
         return 0;
@@ -60,8 +70,7 @@ std::vector<ProfilePoint> Reach::Profile() const {
         const CrossSection& section = sections[i];
         ProfilePoint point{
             section.chainage, section.invert, DischargeAt(i), BedSlope(i), {}, {}, 0};
-        point.depth = hydraulics::NormalDepth(section.Shape(), point.discharge, section.Roughness(),
-                                              point.slope);
+        point.depth = section.NormalDepth(point.discharge, point.slope);
         if (point.depth) {
             point.level = section.invert + *point.depth;
             point.velocity = hydraulics::Velocity(section.Shape(), *point.depth,

@@ -42,6 +42,7 @@ struct CrossSection {
     double invert = 0;    // bed level, m
     double bedWidth = 1;  // m
     double sideSlope = 1; // horizontal per unit vertical
+    int barrels = 1;      // identical channels side by side, as the cells of a box culvert
     int lining = 0;       // index into Linings()
     CalendarDate lined;
     bool surveyed = false;
@@ -49,7 +50,12 @@ struct CrossSection {
     Inflow inflow;
 
     double Roughness() const;
+    // The shape of one barrel.
     hydraulics::Trapezoid Shape() const { return {bedWidth, sideSlope}; }
+    // The flow of all barrels together at a depth, and the depth at which they carry a
+    // discharge, each barrel taking an equal share.
+    double Discharge(double depth, double slope) const;
+    std::optional<double> NormalDepth(double discharge, double slope) const;
     bool operator==(const CrossSection&) const = default;
 };
 

@@ -79,6 +79,7 @@ bool ReadSection(CString& line, CrossSection& section) {
     int surveyed = 0;
     return daReadData(line, section.chainage) && daReadData(line, section.invert) &&
            daReadData(line, section.bedWidth) && daReadData(line, section.sideSlope) &&
+           daReadData(line, section.barrels) && section.barrels >= 1 &&
            ReadLining(line, section.lining) && ReadDate(line, section.lined) &&
            daReadData(line, surveyed) && (section.surveyed = surveyed != 0, true) &&
            ReadColour(line, section.colour) && ReadInflow(line, section.inflow);
@@ -143,8 +144,9 @@ bool WriteReachFile(const std::string& path, const Reach& reach) {
                  reach.name.c_str(), reach.discharge);
     for (const CrossSection& s : reach.sections) {
         const unsigned long c = s.colour;
-        std::fprintf(out, "section %.6g %.6g %.6g %.6g \"%s\" %04d-%02d-%02d %d #%02lX%02lX%02lX",
-                     s.chainage, s.invert, s.bedWidth, s.sideSlope,
+        std::fprintf(out,
+                     "section %.6g %.6g %.6g %.6g %d \"%s\" %04d-%02d-%02d %d #%02lX%02lX%02lX",
+                     s.chainage, s.invert, s.bedWidth, s.sideSlope, s.barrels,
                      Linings()[size_t(s.lining)].name, s.lined.year, s.lined.month, s.lined.day,
                      s.surveyed ? 1 : 0, c & 0xFF, c >> 8 & 0xFF, c >> 16 & 0xFF);
         if (s.inflow.isCurve) {

@@ -5,8 +5,8 @@
 //
 //   reach "Mill Creek below the road culvert"
 //   discharge 4.5
-//   section <chainage> <invert> <bed width> <side slope> "<lining>" <yyyy-mm-dd> <surveyed 0|1>
-//           #RRGGBB const <m3/s> | curve <count> <hours> <m3/s> ...
+//   section <chainage> <invert> <bed width> <side slope> <barrels> "<lining>" <yyyy-mm-dd>
+//           <surveyed 0|1> #RRGGBB const <m3/s> | curve <count> <hours> <m3/s> ...
 
 #include "Reach.h"
 

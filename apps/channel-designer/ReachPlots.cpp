@@ -124,10 +124,11 @@ void RatingCurvePlot::Refresh() {
     data.Initialize(std::max<int>(1, int(m_sections.size())), kRatingSteps, 0);
     for (size_t c = 0; c < m_sections.size(); ++c) {
         const CrossSection& s = reach.sections[m_sections[c]];
-        const auto curve = hydraulics::RatingCurve(
-            s.Shape(), s.Roughness(), reach.BedSlope(m_sections[c]), maxDepth, kRatingSteps);
-        for (size_t i = 0; i < curve.size(); ++i)
-            data.SetDataForPoint(int(c), int(i), curve[i].discharge, curve[i].depth);
+        const double slope = reach.BedSlope(m_sections[c]);
+        for (int i = 0; i < kRatingSteps; ++i) {
+            const double depth = maxDepth * (i + 1) / kRatingSteps;
+            data.SetDataForPoint(int(c), i, s.Discharge(depth, slope), depth);
+        }
         char name[64];
         std::snprintf(name, sizeof name, "Section %zu (%.0f m)", m_sections[c] + 1, s.chainage);
         data.SetCurveName(int(c), name);

@@ -6,6 +6,7 @@
 #include "cells/GridCellCombo.h"
 #include "cells/GridCellFltCtrl.h"
 #include "cells/GridCellFltXYCrv.h"
+#include "cells/GridCellIntCtrl.h"
 #include "cells/GridCellTimeCtrl.h"
 #include "cells/GridColorCell.h"
 #include "platform/system/SysColors.h"
@@ -21,9 +22,10 @@ struct ColumnLook {
     int width;
 };
 constexpr ColumnLook kLooks[SectionSheet::kColumns] = {
-    {"Sec.", 38},       {"Chainage (m)", 84},   {"Invert (m)", 76}, {"Bed width (m)", 88},
-    {"Side slope", 70}, {"Lining", 156},        {"Lined", 86},      {"Surveyed", 64},
-    {"Colour", 54},     {"Inflow (m3/s)", 112}, {"Depth (m)", 70},  {"Level (m)", 76},
+    {"Sec.", 38},       {"Chainage (m)", 84}, {"Invert (m)", 76},     {"Bed width (m)", 88},
+    {"Side slope", 70}, {"Barrels", 56},      {"Lining", 156},        {"Lined", 86},
+    {"Surveyed", 64},   {"Colour", 54},       {"Inflow (m3/s)", 112}, {"Depth (m)", 70},
+    {"Level (m)", 76},
 };
 
 struct Precision {
@@ -75,6 +77,7 @@ void SectionSheet::MakeRow(int row) {
         SetCellType(row, p.column, RUNTIME_CLASS(CGridCellFltCtrl));
         static_cast<CGridCellFltCtrl*>(GetCell(row, p.column))->SetPrecision(p.decimals, false, -1);
     }
+    SetCellType(row, kBarrels, RUNTIME_CLASS(CGridCellIntCtrl));
     SetCellType(row, kLining, RUNTIME_CLASS(CGridCellCombo));
     auto* lining = static_cast<CGridCellCombo*>(GetCell(row, kLining));
     CStringArray names;
@@ -113,6 +116,7 @@ void SectionSheet::Show(const Reach& reach) {
         SetItemText(row, kInvert, Number(s.invert, 3));
         SetItemText(row, kBedWidth, Number(s.bedWidth, 2));
         SetItemText(row, kSideSlope, Number(s.sideSlope, 2));
+        SetItemTextFmt(row, kBarrels, "%d", s.barrels);
         SetItemData(row, kLining, s.lining);
         const COleDateTime lined = ToOleDate(s.lined);
         SetItemText(row, kLined, FormatDateTime(&lined, kFormatDate));
@@ -148,6 +152,7 @@ CrossSection SectionSheet::ReadRow(int row, const CrossSection& before) const {
     s.invert = ReadNumber(GetItemText(row, kInvert), s.invert);
     s.bedWidth = ReadNumber(GetItemText(row, kBedWidth), s.bedWidth);
     s.sideSlope = ReadNumber(GetItemText(row, kSideSlope), s.sideSlope);
+    s.barrels = std::max(1, int(ReadNumber(GetItemText(row, kBarrels), s.barrels)));
     const LPARAM lining = GetItemData(row, kLining);
     if (lining >= 0 && size_t(lining) < Linings().size())
         s.lining = int(lining);

@@ -16,6 +16,7 @@ public:
         kInvert,
         kBedWidth,
         kSideSlope,
+        kBarrels,
         kLining,
         kLined,
         kSurveyed,

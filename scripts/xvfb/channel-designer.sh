@@ -70,12 +70,12 @@ xdotool windowfocus --sync "$dialog"
 shot 5-flow-calculator
 eval "$(xdotool getwindowgeometry --shell "$dialog")"
 # The depth field: the dialog's font makes a dialog unit 1.5 pixels across and 1.625 down.
-click $((X + 290)) $((Y + 22 + 250))
+click $((X + 290)) $((Y + 22 + 276))
 keys ctrl+a
 xdotool type --delay 120 "1.2"
 sleep 0.6
 shot 6-depth-typed
-changed=$(pixels_changed 5-flow-calculator 6-depth-typed "${WIDTH}x60+$X+$((Y + 230))")
+changed=$(pixels_changed 5-flow-calculator 6-depth-typed "${WIDTH}x80+$X+$((Y + 250))")
 verdict "$([[ $changed -gt 20 ]] && echo 1 || echo 0)" \
     "discharge and velocity recomputed as the depth was typed ($changed pixels changed)"
 keys Escape

@@ -71,16 +71,6 @@ TEST(Hydraulics, FroudeNumberSeparatesTheRegimes) {
     EXPECT_GT(FroudeNumber(kChannel, 0.3, 0.011, 0.05), 1.0);
 }
 
-TEST(Hydraulics, RatingCurveRises) {
-    const auto curve = RatingCurve(kChannel, kEarth, kSlope, 2.0, 8);
-    ASSERT_EQ(curve.size(), 8u);
-    EXPECT_DOUBLE_EQ(curve.front().depth, 0.25);
-    EXPECT_DOUBLE_EQ(curve.back().depth, 2.0);
-    for (size_t i = 1; i < curve.size(); ++i)
-        EXPECT_GT(curve[i].discharge, curve[i - 1].discharge);
-    EXPECT_TRUE(RatingCurve(kChannel, kEarth, kSlope, 0, 8).empty());
-}
-
 } // namespace
 
 #include "Reach.h"
@@ -114,6 +104,22 @@ TEST(ReachProfile, InflowsGatherDownTheReachAndAFlatBedHasNoLevel) {
     ASSERT_TRUE(profile[0].level && profile[2].level);
     EXPECT_NEAR(*profile[0].level - 10.0, *NormalDepth({2, 1}, 2.0, s.Roughness(), 0.002), 1e-12);
     EXPECT_GT(profile[2].velocity, 0);
+}
+
+TEST(ReachProfile, BarrelsShareTheFlowEqually) {
+    CrossSection box;
+    box.bedWidth = 1.5;
+    box.sideSlope = 0;
+    box.lining = 0;
+    CrossSection twin = box;
+    twin.barrels = 2;
+    const double slope = 0.002;
+    EXPECT_DOUBLE_EQ(twin.Discharge(0.8, slope), 2 * box.Discharge(0.8, slope));
+    ASSERT_TRUE(twin.NormalDepth(3.0, slope));
+    EXPECT_NEAR(*twin.NormalDepth(3.0, slope), *box.NormalDepth(1.5, slope), 1e-12);
+    twin.barrels = 0;
+    EXPECT_FALSE(twin.NormalDepth(3.0, slope));
+    EXPECT_EQ(twin.Discharge(0.8, slope), 0);
 }
 
 } // namespace

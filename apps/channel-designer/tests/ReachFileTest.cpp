@@ -30,7 +30,7 @@ protected:
 };
 
 constexpr const char* kHeader = "reach \"Test\"\ndischarge 2\n";
-constexpr const char* kSection = "section 0 10 2 1 \"Grass\" 2020-01-02 1 #FF8000 const 0\n";
+constexpr const char* kSection = "section 0 10 2 1 1 \"Grass\" 2020-01-02 1 #FF8000 const 0\n";
 
 TEST_F(ReachFileTest, TheExamplesRead) {
     for (const char* name : {"mill-creek.reach", "east-drain.reach"}) {
@@ -53,6 +53,7 @@ TEST_F(ReachFileTest, WhatIsWrittenReadsBackTheSame) {
     upstream.invert = 12.345;
     upstream.bedWidth = 2.5;
     upstream.sideSlope = 0.75;
+    upstream.barrels = 3;
     upstream.lining = 5;
     upstream.lined = {2019, 12, 31};
     upstream.surveyed = true;
@@ -84,16 +85,20 @@ TEST_F(ReachFileTest, AnErrorNamesItsLineAndLeavesTheReachAlone) {
         std::string error;
     } cases[] = {
         {std::string(kHeader) + kSection +
-             "\n# a comment\nsection 5 9 2 1 \"Marble\" 2020-01-02 "
+             "\n# a comment\nsection 5 9 2 1 1 \"Marble\" 2020-01-02 "
              "1 #FF8000 const 0\n",
          "line 6: a section needs"},
         {std::string(kHeader) + kSection +
-             "section 5 9 2 1 \"Grass\" 2020-13-02 1 #FF8000 const 0\n",
-         "line 4: a section needs"},
-        {std::string(kHeader) + kSection + "section 5 9 2 1 \"Grass\" 2020-01-02 1 #FF80 const 0\n",
+             "section 5 9 2 1 1 \"Grass\" 2020-13-02 1 #FF8000 const 0\n",
          "line 4: a section needs"},
         {std::string(kHeader) + kSection +
-             "section 5 9 2 1 \"Grass\" 2020-01-02 1 #FF8000 curve 3 0 0 1 1\n",
+             "section 5 9 2 1 1 \"Grass\" 2020-01-02 1 #FF80 const 0\n",
+         "line 4: a section needs"},
+        {std::string(kHeader) + kSection +
+             "section 5 9 2 1 1 \"Grass\" 2020-01-02 1 #FF8000 curve 3 0 0 1 1\n",
+         "line 4: a section needs"},
+        {std::string(kHeader) + kSection +
+             "section 5 9 2 1 0 \"Grass\" 2020-01-02 1 #FF8000 const 0\n",
          "line 4: a section needs"},
         {std::string(kHeader) + kSection + kSection, "line 4: sections must follow"},
         {std::string(kHeader) + "weir 3\n", "line 3: unknown record"},
@@ -112,7 +117,7 @@ TEST_F(ReachFileTest, AnErrorNamesItsLineAndLeavesTheReachAlone) {
 
 TEST_F(ReachFileTest, LiningsMatchWithoutRegardToCase) {
     ASSERT_TRUE(Read(std::string(kHeader) + kSection +
-                     "section 50 9.9 2 1 \"concrete, ROUGH\" 2020-01-02 0 #000000 const 0\n"))
+                     "section 50 9.9 2 1 1 \"concrete, ROUGH\" 2020-01-02 0 #000000 const 0\n"))
         << m_error;
     EXPECT_EQ(Linings()[size_t(m_reach.sections[1].lining)].name, std::string("Concrete, rough"));
     EXPECT_EQ(m_reach.sections[0].colour, 0x0080FFu); // #FF8000: red in the low byte

@@ -124,6 +124,13 @@ TEST_F(ScriptedRun, EditingCellsOfEveryTypeMovesThePlotsAndTheRecoveryCopy) {
     EXPECT_DOUBLE_EQ(DataOf(document.ProfilePlot()).y[LongProfilePlot::kBed][1], 102.3);
     EXPECT_GT(levelAt(1), levelBefore);
 
+    // A whole number: a third cell in the culvert at section 7 makes the flow there shallower.
+    const double twoCells = levelAt(6);
+    m_ui.Click(sheet, CellCentre(7, Column::kBarrels));
+    m_ui.Type("3\r");
+    EXPECT_EQ(document.reach.sections[6].barrels, 3);
+    EXPECT_LT(levelAt(6), twoCells);
+
     // A lining from the list: grass becomes riprap, which is rougher, so the water rises.
     const double grassLevel = levelAt(3);
     m_ui.DoubleClick(sheet, CellCentre(4, Column::kLining));
