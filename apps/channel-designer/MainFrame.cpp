@@ -153,15 +153,7 @@ void MainFrame::RunFlowCalculator() {
         AfxMessageBox("Open a reach first: the flow calculator works on one of its sections.");
         return;
     }
-    const HWND reachWindow = reach->GetSafeHwnd();
-    FlowDialog dialog(reach->Document().reach, reach->FocusSection(), this);
-    if (dialog.DoModal() != IDOK || !::IsWindow(reachWindow))
-        return; // the reach may have closed while the dialog was open
-    ReachDocument& document = reach->Document();
-    if (dialog.DesignDischarge() != document.reach.discharge) {
-        document.reach.discharge = dialog.DesignDischarge();
-        document.Changed();
-    }
+    reach->RunFlowCalculator(reach->FocusSection());
 }
 
 BOOL MainFrame::OnCommand(WPARAM wParam, LPARAM lParam) {

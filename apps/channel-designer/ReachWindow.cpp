@@ -2,6 +2,7 @@
 
 #include "ReachWindow.h"
 
+#include "FlowDialog.h"
 #include "HydrographDialog.h"
 
 #include "grid/GridNotify.h"
@@ -14,9 +15,9 @@ namespace {
 constexpr UINT kSheetId = 100;
 // Posted when a cell's edit ends: by the time it arrives the cell holds its final value.
 constexpr UINT WM_READ_SHEET = WM_APP + 1;
-// Posted by the button of an inflow cell, with the row: the hydrograph dialog opens once the
-// button has gone.
+// Posted by the buttons of the sheet, with the row: their dialogs open once the button has gone.
 constexpr UINT WM_EDIT_HYDROGRAPH = WM_APP + 3;
+constexpr UINT WM_CALCULATE_FLOW = WM_APP + 4;
 
 } // namespace
 
@@ -60,8 +61,9 @@ BOOL ReachWindow::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
     const auto* header = reinterpret_cast<const NMHDR*>(lParam);
     const auto* cell = reinterpret_cast<const GV_NMGRID*>(lParam);
     if (header->idFrom == kSheetId && header->code == UINT(GV_NOTIFY_CELLBUTTON) &&
-        cell->iColumn == SectionSheet::kInflow) {
-        PostMessage(WM_EDIT_HYDROGRAPH, WPARAM(cell->iRow));
+        (cell->iColumn == SectionSheet::kInflow || cell->iColumn == SectionSheet::kCalculate)) {
+        PostMessage(cell->iColumn == SectionSheet::kInflow ? WM_EDIT_HYDROGRAPH : WM_CALCULATE_FLOW,
+                    WPARAM(cell->iRow));
         *result = 0;
         return TRUE;
     }
@@ -81,6 +83,11 @@ LRESULT ReachWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     if (message == WM_EDIT_HYDROGRAPH) {
         EditHydrograph(int(wParam));
+        return 0;
+    }
+    if (message == WM_CALCULATE_FLOW) {
+        if (wParam >= 1 && wParam <= m_document->reach.sections.size())
+            RunFlowCalculator(size_t(wParam - 1));
         return 0;
     }
     return CMDIChildWnd::WindowProc(message, wParam, lParam);
@@ -112,6 +119,17 @@ void ReachWindow::EditHydrograph(int row) {
     m_document->reach.sections[section].inflow = dialog.Result();
     m_sheet.Show(m_document->reach);
     m_document->Changed();
+}
+
+void ReachWindow::RunFlowCalculator(size_t section) {
+    const HWND self = m_hWnd;
+    FlowDialog dialog(m_document->reach, section, GetMDIFrame());
+    if (dialog.DoModal() != IDOK || !::IsWindow(self))
+        return; // the reach may have closed while the dialog was open
+    if (dialog.DesignDischarge() != m_document->reach.discharge) {
+        m_document->reach.discharge = dialog.DesignDischarge();
+        m_document->Changed();
+    }
 }
 
 void ReachWindow::OnDestroy() {

@@ -1,8 +1,8 @@
 #pragma once
 
 // The document window of a reach: its spreadsheet of sections fills the window. It owns the
-// reach's document, reads each change the user makes in the sheet back into the reach, and
-// closes the reach's plots as it goes.
+// reach's document, reads each change the user makes in the sheet back into the reach, opens
+// the dialogs that the sheet's buttons ask for, and closes the reach's plots as it goes.
 
 #include "ReachDocument.h"
 #include "SectionSheet.h"
@@ -19,6 +19,8 @@ public:
     SectionSheet& Sheet() { return m_sheet; }
     // The section of the sheet's focus row; the first when no row has the focus.
     size_t FocusSection() const;
+    // The flow calculator on a section; the reach takes its design discharge on OK.
+    void RunFlowCalculator(size_t section);
 
 protected:
     int OnCreate(LPCREATESTRUCT createStruct) override;

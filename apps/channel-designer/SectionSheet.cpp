@@ -2,6 +2,7 @@
 
 #include "SectionSheet.h"
 
+#include "cells/GridCellButton.h"
 #include "cells/GridCellCheckbox.h"
 #include "cells/GridCellCombo.h"
 #include "cells/GridCellFltCtrl.h"
@@ -22,10 +23,13 @@ struct ColumnLook {
     int width;
 };
 constexpr ColumnLook kLooks[SectionSheet::kColumns] = {
-    {"Sec.", 38},       {"Chainage (m)", 84}, {"Invert (m)", 76},     {"Bed width (m)", 88},
-    {"Side slope", 70}, {"Barrels", 56},      {"Lining", 156},        {"Lined", 86},
-    {"Surveyed", 64},   {"Colour", 54},       {"Inflow (m3/s)", 112}, {"Depth (m)", 70},
-    {"Level (m)", 76},
+    {"Sec.", 38},           {"Chainage (m)", 84},
+    {"Invert (m)", 76},     {"Bed width (m)", 88},
+    {"Side slope", 70},     {"Barrels", 56},
+    {"Lining", 156},        {"Lined", 86},
+    {"Surveyed", 64},       {"Colour", 54},
+    {"Inflow (m3/s)", 112}, {"Depth (m)", 70},
+    {"Level (m)", 76},      {"", 62},
 };
 
 struct Precision {
@@ -96,8 +100,10 @@ void SectionSheet::MakeRow(int row) {
     SetCellType(row, kLined, RUNTIME_CLASS(CGridCellTimeCtrl));
     static_cast<CGridCellTimeCtrl*>(GetCell(row, kLined))->SetShowTime(false);
     SetCellType(row, kSurveyed, RUNTIME_CLASS(CGridCellCheckbox));
+    SetCellType(row, kCalculate, RUNTIME_CLASS(CGridCellButton));
+    SetItemText(row, kCalculate, "Flow...");
     SetCellType(row, kColour, RUNTIME_CLASS(CGridColorCell));
-    for (int col : {kSurveyed, kColour, kDepth, kLevel})
+    for (int col : {kSurveyed, kColour, kDepth, kLevel, kCalculate})
         SetItemState(row, col, GetItemState(row, col) | GV_STATE_READONLY);
     for (int col : {kDepth, kLevel})
         SetItemBkColour(row, col, GetSysColor(COLOR_BTNFACE));

@@ -24,6 +24,7 @@ public:
         kInflow,
         kDepth,
         kLevel,
+        kCalculate, // a button that opens the flow calculator on the row's section
         kColumns
     };
 

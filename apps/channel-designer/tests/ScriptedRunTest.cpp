@@ -311,6 +311,19 @@ TEST_F(ScriptedRun, TheFlowCalculatorRecomputesAsTheUserTypesAndAppliesTheDesign
     // Made larger, the dialog kept its buttons in the corner.
     EXPECT_EQ(okAfter.right - okBefore.right, 160);
     EXPECT_EQ(okAfter.bottom - okBefore.bottom, 60);
+
+    // The button at the end of a row opens the calculator on that row's section.
+    LRESULT shownSection = -1;
+    dialogs.Next()
+        .Run([&](CDialog& dialog, UiDriver&) {
+            shownSection =
+                ::SendMessage(::GetDlgItem(dialog, FlowDialog::kSectionId), CB_GETCURSEL, 0, 0);
+        })
+        .Press(IDCANCEL);
+    m_ui.Click(Sheet(*m_reach), CellCentre(5, Column::kCalculate));
+    ASSERT_EQ(dialogs.Count(), 2);
+    EXPECT_EQ(shownSection, 4);
+    EXPECT_DOUBLE_EQ(document.reach.discharge, 6.5) << "Cancel leaves the reach alone";
 }
 
 TEST_F(ScriptedRun, HelpOpensTheDocumentAtTheTopicOfTheMenuOrTheDialog) {
