@@ -2,6 +2,7 @@
 
 #include "ReachPlots.h"
 
+#include "chart/ChartApi.h"
 #include "plot/PlotApi.h"
 #include "plot/PlotData.h"
 
@@ -15,7 +16,7 @@ constexpr unsigned char kDocumentWindow = 0;
 constexpr double kMissing = -9999.0; // a gap in a curve
 constexpr int kPlottingMethod = 3090;
 constexpr int kBestFitLine = 8;
-constexpr int kCurveSymbols = 3270;
+constexpr int kYData = 3014; // the curves' Y values, point by point
 constexpr int kFilledSquare = 3;
 constexpr int kCircle = 2;
 constexpr int kNoSymbol = 0;
@@ -86,11 +87,23 @@ void LongProfilePlot::PlotClick(int curve, int point, Pt2<double>, unsigned char
         *drag = 1;
 }
 
-int LongProfilePlot::CheckDragPoint(int curve, int, Pt2<double>, Pt2<double>*, unsigned char* moveX,
-                                    unsigned char* moveY) {
+int LongProfilePlot::CheckDragPoint(int curve, int point, Pt2<double>, Pt2<double>* current,
+                                    unsigned char* moveX, unsigned char* moveY) {
     *moveX = 0; // a section keeps its chainage
     *moveY = 1;
-    return curve == kBed ? 1 : 0;
+    if (curve != kBed || point < 0 || size_t(point) >= m_document->reach.sections.size())
+        return 0;
+    // The water surface follows the point as it moves; the reach changes only when it is let go.
+    Reach moved = m_document->reach;
+    moved.sections[size_t(point)].invert = current->y;
+    const std::vector<ProfilePoint> profile = moved.Profile();
+    ChartSetCell(GetHwnd(), kYData, kBed, point, &current->y);
+    for (size_t i = 0; i < profile.size(); ++i) {
+        const double level = profile[i].level.value_or(kMissing);
+        ChartSetCell(GetHwnd(), kYData, kWater, int(i), &level);
+    }
+    RedrawPlot(); // the chart draws again on request only
+    return 1;
 }
 
 void LongProfilePlot::EndDrag(int curve, int point, Pt2<double>, Pt2<double>* end) {

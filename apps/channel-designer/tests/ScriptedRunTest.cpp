@@ -245,7 +245,14 @@ TEST_F(ScriptedRun, DraggingABedPointChangesTheSheet) {
     const CPoint from = pixelOf(before.chainage, before.invert);
     const CPoint to = pixelOf(before.chainage, before.invert + 0.1);
     ASSERT_LT(to.y, from.y - 4) << "the drag must be long enough to see";
-    m_ui.Drag(chart, from, to);
+    // While the point moves the water surface follows it on the plot, and the reach waits.
+    const double waterBefore = DataOf(profile).y[LongProfilePlot::kWater][1];
+    m_ui.MouseDown(chart, from);
+    m_ui.MouseMove(chart, CPoint(from.x, (from.y + to.y) / 2));
+    m_ui.MouseMove(chart, to);
+    EXPECT_NE(DataOf(profile).y[LongProfilePlot::kWater][1], waterBefore);
+    EXPECT_EQ(document.reach.sections[2].invert, before.invert);
+    m_ui.MouseUp(chart, to);
 
     const double dragged = document.reach.sections[2].invert;
     EXPECT_NEAR(dragged, before.invert + 0.1, 0.01);
