@@ -22,8 +22,8 @@ build: deps $(BUILD)/build.ninja
 # $(GALLERY_OUT)/app. With a display, Channel Designer then opens for the user.
 demo: build
 	$(BUILD)/apps/gallery/gallery --out $(GALLERY_OUT)
-	mkdir -p $(BUILD)/test-tmp $(GALLERY_OUT)/app
-	TMPDIR=$(abspath $(BUILD))/test-tmp CHANNEL_DESIGNER_SHOTS=$(abspath $(GALLERY_OUT))/app \
+	mkdir -p $(BUILD)/test-tmp/channel-designer $(GALLERY_OUT)/app
+	TMPDIR=$(abspath $(BUILD))/test-tmp/channel-designer CHANNEL_DESIGNER_SHOTS=$(abspath $(GALLERY_OUT))/app \
 		$(BUILD)/apps/channel-designer/test_channel_designer --gtest_filter='ScriptedRun.*' --gtest_brief=1
 	@ls $(GALLERY_OUT)/app
 	@if [ -n "$$DISPLAY" ]; then $(BUILD)/apps/channel-designer/channel-designer; fi

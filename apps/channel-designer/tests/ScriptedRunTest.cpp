@@ -164,7 +164,7 @@ TEST_F(ScriptedRun, EditingCellsOfEveryTypeMovesThePlotsAndTheRecoveryCopy) {
         .Run([&](CDialog& dialog, UiDriver& driver) {
             auto& chooser = static_cast<CColorChooserDlg&>(dialog);
             driver.Click(chooser, chooser.SwatchRect(kChooserSwatch).CenterPoint());
-            SaveScreen(chooser, "05-colour-chooser");
+            SaveScreen(chooser, "04-colour-chooser");
         })
         .Press(IDOK);
     m_ui.DoubleClick(sheet, CellCentre(1, Column::kColour));
@@ -203,7 +203,7 @@ TEST_F(ScriptedRun, EditingCellsOfEveryTypeMovesThePlotsAndTheRecoveryCopy) {
             table.GetCellRect(2, 1, &rate);
             driver.Click(table, rate.CenterPoint());
             driver.Type("3.5\r");
-            SaveScreen(dialog, "05-hydrograph");
+            SaveScreen(dialog, "05-hydrograph-dialog");
         })
         .Press(IDOK);
     inflowCell = static_cast<CGridCellFltXYCrv*>(m_reach->Sheet().GetCell(6, Column::kInflow));
@@ -215,7 +215,7 @@ TEST_F(ScriptedRun, EditingCellsOfEveryTypeMovesThePlotsAndTheRecoveryCopy) {
     EXPECT_GT(levelAt(6), beforePeak);
 
     m_ui.Click(sheet, CellCentre(7, Column::kChainage));
-    SaveScreen(*m_frame, "04-cells-edited");
+    SaveScreen(*m_frame, "06-cells-edited");
 
     // Every change went to the recovery copy in this run's own temporary directory.
     const fs::path recovery = document.recoveryPath;
@@ -259,7 +259,7 @@ TEST_F(ScriptedRun, DraggingABedPointChangesTheSheet) {
     EXPECT_EQ(document.reach.sections[2].chainage, before.chainage) << "only levels move";
     EXPECT_EQ(std::atof(m_reach->Sheet().GetItemText(3, Column::kInvert)), dragged);
     EXPECT_DOUBLE_EQ(DataOf(profile).y[LongProfilePlot::kBed][2], dragged);
-    SaveScreen(*m_frame, "06-bed-point-dragged");
+    SaveScreen(*m_frame, "07-bed-point-dragged");
 }
 
 TEST_F(ScriptedRun, TheFlowCalculatorRecomputesAsTheUserTypesAndAppliesTheDesignDischarge) {
@@ -283,7 +283,7 @@ TEST_F(ScriptedRun, TheFlowCalculatorRecomputesAsTheUserTypesAndAppliesTheDesign
             depth = flow.depth.GetValue();
             discharge = flow.discharge.GetValue();
             velocity = flow.velocity.GetValue();
-            SaveScreen(dialog, "07-flow-calculator");
+            SaveScreen(dialog, "08-flow-calculator");
         })
         .Type(FlowDialog::kDischargeId, "6.5")
         .Run([&](CDialog& dialog, UiDriver& driver) {
@@ -296,7 +296,7 @@ TEST_F(ScriptedRun, TheFlowCalculatorRecomputesAsTheUserTypesAndAppliesTheDesign
                                 SWP_NOMOVE | SWP_NOZORDER);
             driver.Pump();
             ::GetWindowRect(::GetDlgItem(dialog, IDOK), &okAfter);
-            SaveScreen(dialog, "08-flow-calculator-wide");
+            SaveScreen(dialog, "09-flow-calculator-wide");
         })
         .Press(IDOK);
     ChooseFromMenuBar(1, "Flow Calculator...");
@@ -369,10 +369,10 @@ TEST_F(ScriptedRun, EveryMenuOfTheBarOpensAndItsCommandsAct) {
         const char* screen;
         std::vector<std::string> items;
     } bar[] = {
-        {"09-menu-file", {"Open Reach...", "Open Example: Mill Creek", "Close Window", "Exit"}},
-        {"10-menu-reach", {"Flow Calculator...", "Long Profile", "Rating Curves"}},
-        {"11-menu-window", {"Cascade", "Tile", "Next Window"}},
-        {"12-menu-help", {"Contents", "Analysis", "Flow Calculator", "About Channel Designer..."}},
+        {"10-menu-file", {"Open Reach...", "Open Example: Mill Creek", "Close Window", "Exit"}},
+        {"11-menu-reach", {"Flow Calculator...", "Long Profile", "Rating Curves"}},
+        {"12-menu-window", {"Cascade", "Tile", "Next Window"}},
+        {"13-menu-help", {"Contents", "Analysis", "Flow Calculator", "About Channel Designer..."}},
     };
     for (int i = 0; i < int(std::size(bar)); ++i) {
         MenuResponder menus;
@@ -410,7 +410,7 @@ TEST_F(ScriptedRun, EveryMenuOfTheBarOpensAndItsCommandsAct) {
     EXPECT_FALSE(overlap.IntersectRect(&sheet, &profile));
     EXPECT_FALSE(overlap.IntersectRect(&sheet, &rating));
     EXPECT_FALSE(overlap.IntersectRect(&profile, &rating));
-    SaveScreen(*m_frame, "13-tiled");
+    SaveScreen(*m_frame, "14-tiled");
 
     MessageBoxResponder boxes;
     ChooseFromMenuBar(3, "About Channel Designer...");
