@@ -1,7 +1,7 @@
 // The cache of shaped texts: a fixed array of entries chained in order of use, with a flat
-// open-addressing index by key. A miss shapes the text in one scratch layout and keeps its glyphs
-// in the entry used longest ago, so that a full cache allocates little and a first paint touches
-// no more memory than drawing each text afresh.
+// open-addressing index by key. A miss shapes a plain line straight into the glyphs of the entry
+// used longest ago, and any other text in one scratch layout, so that a full cache allocates
+// little and a first paint costs less than laying each text out afresh.
 
 #include "platform/gdi/TextLayoutCache.h"
 
@@ -30,18 +30,22 @@ std::uint32_t TextLayoutCache::FontNumber(const FontObject* font) {
                            font->log.lfUnderline != 0, font->log.lfStrikeOut != 0},
                           family != nullptr ? family : ""};
     for (size_t i = 0; i < m_fonts.size(); ++i)
-        if (m_fonts[i] == identity)
+        if (m_fonts[i].identity == identity)
             return std::uint32_t(i);
     if (m_fonts.size() == kMostFonts)
         Clear();
-    m_fonts.push_back(std::move(identity));
+    KnownFont known{std::move(identity), nullptr};
+    if (!font->log.lfUnderline && !font->log.lfStrikeOut)
+        known.plainLine = std::make_unique<PlainLineFont>(description);
+    m_fonts.push_back(std::move(known));
     return std::uint32_t(m_fonts.size() - 1);
 }
 
-void TextLayoutCache::MakeKey(const FontObject* font, std::string_view text) {
+PlainLineFont* TextLayoutCache::MakeKey(const FontObject* font, std::string_view text) {
     const std::uint32_t number = FontNumber(font);
     m_key.assign(reinterpret_cast<const char*>(&number), sizeof number);
     m_key.append(text);
+    return m_fonts[number].plainLine.get();
 }
 
 void TextLayoutCache::Clear() {
@@ -118,74 +122,6 @@ void TextLayoutCache::Configure(PangoLayout* layout, FontObject* font, std::stri
     }
 }
 
-GlyphRuns::~GlyphRuns() {
-    Clear();
-}
-
-void GlyphRuns::Clear() {
-    for (const Run& run : m_runs)
-        cairo_scaled_font_destroy(run.font);
-    m_runs.clear();
-    m_glyphs.clear();
-}
-
-bool GlyphRuns::Take(PangoLayout* layout) {
-    Clear();
-    if (pango_layout_get_line_count(layout) != 1 || pango_layout_get_attributes(layout) != nullptr)
-        return false;
-    PangoLayoutIter* iter = pango_layout_get_iter(layout);
-    bool ok = true;
-    do {
-        PangoLayoutRun* run = pango_layout_iter_get_run_readonly(iter);
-        if (run == nullptr)
-            continue;
-        cairo_scaled_font_t* font =
-            pango_cairo_font_get_scaled_font(PANGO_CAIRO_FONT(run->item->analysis.font));
-        if (font == nullptr || cairo_scaled_font_status(font) != CAIRO_STATUS_SUCCESS) {
-            ok = false;
-            break;
-        }
-        PangoRectangle logical;
-        pango_layout_iter_get_run_extents(iter, nullptr, &logical);
-        m_runs.push_back({cairo_scaled_font_reference(font), logical.x,
-                          pango_layout_iter_get_baseline(iter), m_glyphs.size(), 0});
-        int position = 0;
-        for (int i = 0; i < run->glyphs->num_glyphs && ok; ++i) {
-            const PangoGlyphInfo& glyph = run->glyphs->glyphs[i];
-            ok = (glyph.glyph & PANGO_GLYPH_UNKNOWN_FLAG) == 0;
-            if (ok && glyph.glyph != PANGO_GLYPH_EMPTY)
-                m_glyphs.push_back({glyph.glyph,
-                                    double(position + glyph.geometry.x_offset) / PANGO_SCALE,
-                                    glyph.geometry.y_offset});
-            position += glyph.geometry.width;
-        }
-        m_runs.back().glyphCount = m_glyphs.size() - m_runs.back().firstGlyph;
-    } while (ok && pango_layout_iter_next_run(iter));
-    pango_layout_iter_free(iter);
-    if (!ok)
-        Clear();
-    return ok;
-}
-
-void GlyphRuns::Show(cairo_t* cr, double x, double y) const {
-    for (const Run& run : m_runs) {
-        // The same sums in the same order as Pango's renderer, for the same pixels.
-        const double baseX = x + double(run.x) / PANGO_SCALE;
-        const double baseY = y + double(run.baseline) / PANGO_SCALE;
-        m_placed.clear();
-        for (size_t i = run.firstGlyph; i < run.firstGlyph + run.glyphCount; ++i) {
-            const Glyph& glyph = m_glyphs[i];
-            m_placed.push_back(
-                {glyph.index, baseX + glyph.x,
-                 glyph.yOffset == 0 ? baseY : baseY + double(glyph.yOffset) / PANGO_SCALE});
-        }
-        cairo_save(cr);
-        cairo_set_scaled_font(cr, run.font);
-        cairo_show_glyphs(cr, m_placed.data(), int(m_placed.size()));
-        cairo_restore(cr);
-    }
-}
-
 namespace {
 
 int LogicalWidth(PangoLayout* layout) {
@@ -196,6 +132,32 @@ int LogicalWidth(PangoLayout* layout) {
 
 } // namespace
 
+void TextLayoutCache::ShapeNew(Entry& entry, FontObject* font, PlainLineFont* plainLine,
+                               std::string_view text) {
+    PangoContext* context = pango_layout_get_context(SharedLayout());
+    if (plainLine != nullptr) {
+        if (m_glyphs == nullptr)
+            m_glyphs.reset(pango_glyph_string_new());
+        const int width = ShapePlainLine(context, *plainLine, text, m_glyphs.get(), entry.runs);
+        if (width >= 0) {
+            entry.shaped = {nullptr, width, &entry.runs};
+            return;
+        }
+    }
+    if (m_scratch == nullptr)
+        m_scratch = pango_layout_new(context);
+    Configure(m_scratch, font, text);
+    const int width = LogicalWidth(m_scratch);
+    if (entry.runs.Take(m_scratch)) {
+        entry.shaped = {nullptr, width, &entry.runs};
+    } else {
+        // The entry keeps the layout as it stands, and its own old one (if any) becomes the
+        // scratch layout.
+        std::swap(entry.layout, m_scratch);
+        entry.shaped = {entry.layout, width, nullptr};
+    }
+}
+
 ShapedText TextLayoutCache::Shape(FontObject* font, std::string_view text) {
     if (text.size() > kLongestText) {
         if (m_uncached == nullptr)
@@ -203,7 +165,7 @@ ShapedText TextLayoutCache::Shape(FontObject* font, std::string_view text) {
         Configure(m_uncached, font, text);
         return {m_uncached, LogicalWidth(m_uncached), nullptr};
     }
-    MakeKey(font, text);
+    PlainLineFont* plainLine = MakeKey(font, text);
     if (m_entries == nullptr) {
         m_entries = std::make_unique<Entry[]>(kCapacity);
         m_slots = std::make_unique<Slot[]>(kSlots);
@@ -230,18 +192,7 @@ ShapedText TextLayoutCache::Shape(FontObject* font, std::string_view text) {
     Entry& entry = m_entries[number];
     entry.key = m_key;
     entry.hash = hash;
-    if (m_scratch == nullptr)
-        m_scratch = pango_layout_new(pango_layout_get_context(SharedLayout()));
-    Configure(m_scratch, font, text);
-    const int width = LogicalWidth(m_scratch);
-    if (entry.runs.Take(m_scratch)) {
-        entry.shaped = {nullptr, width, &entry.runs};
-    } else {
-        // The entry keeps the layout as it stands, and its own old one (if any) becomes the
-        // scratch layout.
-        std::swap(entry.layout, m_scratch);
-        entry.shaped = {entry.layout, width, nullptr};
-    }
+    ShapeNew(entry, font, plainLine, text);
     Insert(hash, number);
     return entry.shaped;
 }

@@ -7,6 +7,8 @@
 // layer; the user-interface thread alone uses it.
 
 #include "platform/gdi/GdiInternal.h"
+#include "platform/gdi/GlyphRuns.h"
+#include "platform/gdi/PlainLine.h"
 
 #include <cstdint>
 #include <memory>
@@ -15,39 +17,6 @@
 #include <vector>
 
 namespace gdi {
-
-// A one-line text's glyphs, placed as Pango's renderer places them, so that showing it again
-// goes straight to Cairo.
-class GlyphRuns {
-public:
-    GlyphRuns() = default;
-    ~GlyphRuns();
-    GlyphRuns(const GlyphRuns&) = delete;
-    GlyphRuns& operator=(const GlyphRuns&) = delete;
-
-    // False, and no runs, for what only Pango draws: several lines, lines along the text,
-    // glyphs missing from every font.
-    bool Take(PangoLayout* layout);
-    // Shows the glyphs as pango_cairo_show_layout would with the current point at (x, y).
-    void Show(cairo_t* cr, double x, double y) const;
-
-private:
-    void Clear();
-
-    struct Run {
-        cairo_scaled_font_t* font; // a reference of our own: the layout may be laid out anew
-        int x, baseline;           // Pango units from the layout's origin
-        size_t firstGlyph, glyphCount;
-    };
-    struct Glyph {
-        unsigned long index;
-        double x;    // pixels from the run's start
-        int yOffset; // Pango units
-    };
-    std::vector<Run> m_runs;
-    std::vector<Glyph> m_glyphs;
-    mutable std::vector<cairo_glyph_t> m_placed; // reused by Show
-};
 
 struct ShapedText {
     PangoLayout* layout;     // left-aligned, unwrapped, with the font's underline and strike-out;
@@ -96,9 +65,19 @@ private:
         std::string family;
         bool operator==(const FontIdentity& other) const = default;
     };
+    struct KnownFont {
+        FontIdentity identity;
+        // Null for a font with lines along its text, which a layout draws.
+        std::unique_ptr<PlainLineFont> plainLine;
+    };
+    struct GlyphStringFree {
+        void operator()(PangoGlyphString* glyphs) const { pango_glyph_string_free(glyphs); }
+    };
     void Configure(PangoLayout* layout, FontObject* font, std::string_view text);
-    void MakeKey(const FontObject* font, std::string_view text);
+    // Sets m_key, and answers the font for shaping a plain line in (or null).
+    PlainLineFont* MakeKey(const FontObject* font, std::string_view text);
     std::uint32_t FontNumber(const FontObject* font);
+    void ShapeNew(Entry& entry, FontObject* font, PlainLineFont* plainLine, std::string_view text);
     void Clear();
 
     std::uint32_t Find(std::uint32_t hash) const; // of m_key
@@ -112,11 +91,12 @@ private:
     std::unique_ptr<Slot[]> m_slots;
     std::uint32_t m_used = 0;
     std::uint32_t m_newest = kNone, m_oldest = kNone;
-    std::vector<FontIdentity> m_fonts; // numbered by their place; keys start with the number
-    std::string m_key;                 // built for each lookup; kept to reuse its storage
+    std::vector<KnownFont> m_fonts; // numbered by their place; keys start with the number
+    std::string m_key;              // built for each lookup; kept to reuse its storage
     PangoLayout* m_uncached = nullptr;
-    // Where new texts are shaped: one layout, warm in the processor's caches, as a program that
-    // draws every text afresh would use; owned.
+    // Where new texts are shaped, kept warm in the processor's caches: the glyphs of a plain
+    // line, and the layout of any other text (owned).
+    std::unique_ptr<PangoGlyphString, GlyphStringFree> m_glyphs;
     PangoLayout* m_scratch = nullptr;
 };
 
