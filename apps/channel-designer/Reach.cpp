@@ -28,7 +28,7 @@ double Inflow::PeakRate() const {
 }
 
 Inflow Inflow::Hydrograph(double peak) {
-    return {true, 0, {{0.0, 0.0}, {2.0, peak}, {6.0, 0.0}}};
+    return {true, 0, {{0.0, 0.0}, {2.0, peak > 0 ? peak : 1.0}, {6.0, 0.0}}};
 }
 
 double CrossSection::Roughness() const {

@@ -32,7 +32,8 @@ struct Inflow {
     std::vector<std::pair<double, double>> curve;
 
     double PeakRate() const;
-    // A hydrograph to start from, rising to `peak` and falling back.
+    // A hydrograph to start from, rising to `peak` (1 m3/s when that is not positive) and
+    // falling back.
     static Inflow Hydrograph(double peak);
     bool operator==(const Inflow&) const = default;
 };

@@ -107,9 +107,7 @@ void ReachWindow::EditHydrograph(int row) {
         return;
     const size_t section = size_t(row - 1);
     const CrossSection& s = m_document->reach.sections[section];
-    const Inflow start =
-        s.inflow.isCurve ? s.inflow
-                         : Inflow::Hydrograph(s.inflow.PeakRate() > 0 ? s.inflow.PeakRate() : 1.0);
+    const Inflow start = s.inflow.isCurve ? s.inflow : Inflow::Hydrograph(s.inflow.PeakRate());
     char name[64];
     std::snprintf(name, sizeof name, "section %d (%.0f m)", row, s.chainage);
     const HWND self = m_hWnd;

@@ -172,7 +172,7 @@ CrossSection SectionSheet::ReadRow(int row, const CrossSection& before) const {
         // A hydrograph picked for a constant inflow starts from it; the user shapes it with
         // the cell's button.
         if (!s.inflow.isCurve)
-            s.inflow = Inflow::Hydrograph(s.inflow.constant > 0 ? s.inflow.constant : 1.0);
+            s.inflow = Inflow::Hydrograph(s.inflow.constant);
     } else if (const auto* rate = reinterpret_cast<const double*>(inflow->GetData())) {
         if (s.inflow.isCurve || *rate != s.inflow.constant)
             s.inflow = Inflow{false, std::max(0.0, *rate), {}};
