@@ -38,12 +38,15 @@ RATIOS = [
     ("DrawText of a short cell text", "BM_DrawText_CDC", "BM_DrawText_RawPango", 1.5),
     ("FillSolidRect of one cell", "BM_FillSolidRect_CDC", "BM_FillSolidRect_RawCairo", None),
     ("Grid store: 100000 x 20 by SetRowCount", "GridSetRowCount", "BaselineBareObjects", 2.0),
+    ("Spreadsheet: 10,000 x 12 of every column kind", "SpreadsheetBuild", "PlainGridBuild", None),
 ]
 
 # (figure, benchmark, counter, baseline benchmark or None, aim)
 COUNTERS = [
     ("PNG file size against Cairo's", "EncodePng", "bytes", "CairoPngWriter", 1.5),
     ("Grid store: bytes per empty text cell", "GridSetRowCount", "bytes_per_cell", None, 128),
+    ("Spreadsheet: bytes per typed cell", "SpreadsheetBuild", "bytes_per_cell", "PlainGridBuild",
+     1.5),
 ]
 
 # (figure, benchmark family, expected complexity)

@@ -77,6 +77,10 @@
 #include "cells/InPlaceList.h"
 #include "cells/InPlaceTimeCtrl.h"
 
+// The typed spreadsheet.
+#include "spreadsheet/ColType.h"
+#include "spreadsheet/SpreadSheetORVA.h"
+
 // Controls.
 #include "controls/DialogORVA.h"
 #include "controls/EditORVA.h"

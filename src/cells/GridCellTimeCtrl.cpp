@@ -71,8 +71,12 @@ CGridCellTimeCtrl::~CGridCellTimeCtrl() = default;
 void CGridCellTimeCtrl::SetText(LPCTSTR text) {
     const CString typed(text != nullptr ? text : "");
     if (typed.IsEmpty()) {
-        // Clears the value; the text shown stays as it was.
-        m_pTime.reset();
+        // Clears the value; the text shown stays as it was. An open picker writes its value
+        // into this very time when it ends, so the time outlives the edit: the edit's end sets
+        // the value again in any case.
+        if (!m_editing) {
+            m_pTime.reset();
+        }
         return;
     }
     if (typed[0] == '^') {

@@ -168,6 +168,25 @@ TEST_F(TimeCellTest, ADayPickedInTheDroppedCalendarIsStoredWhenTheEditEnds) {
     EXPECT_EQ(::GetFocus(), Grid());
 }
 
+TEST_F(TimeCellTest, AnApplicationClearingTheValueUnderAnOpenPickerGetsThePickersDateAtTheEnd) {
+    ui.Click(Grid(), ArrowPoint());
+    CDateTimeCtrl* editor = Editor();
+    ASSERT_NE(editor, nullptr);
+    CMonthCalCtrl* calendar = editor->GetMonthCalCtrl();
+    ASSERT_NE(calendar, nullptr);
+    ui.Click(calendar->GetSafeHwnd(), DayPoint(*calendar, kPickedDay));
+
+    // The picker holds the cell's time until it ends; a clear from the application must not
+    // pull it away under the picker.
+    grid.SetItemText(kRow, kTimeColumn, "");
+    ui.Click(Grid(), CellRect(kOtherRow, kTimeColumn).CenterPoint());
+
+    EXPECT_EQ(Cell().GetEditWnd(), nullptr);
+    ASSERT_NE(Value(), nullptr);
+    EXPECT_EQ(Value()->GetDay(), kPickedDay);
+    EXPECT_EQ(Text(), "3/20/2024 2:05:09 PM");
+}
+
 TEST_F(TimeCellTest, DigitsAndArrowsEditTheFieldsInTheOrderOfTheRegionalDate) {
     DoubleClickLeftEdge();
     ASSERT_NE(Editor(), nullptr);
