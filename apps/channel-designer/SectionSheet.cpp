@@ -2,14 +2,8 @@
 
 #include "SectionSheet.h"
 
-#include "cells/GridCellButton.h"
-#include "cells/GridCellCheckbox.h"
-#include "cells/GridCellCombo.h"
-#include "cells/GridCellFltCtrl.h"
 #include "cells/GridCellFltXYCrv.h"
-#include "cells/GridCellIntCtrl.h"
 #include "cells/GridCellTimeCtrl.h"
-#include "cells/GridColorCell.h"
 #include "platform/system/SysColors.h"
 #include "support/FormatDouble.h"
 
@@ -63,7 +57,6 @@ COleDateTime ToOleDate(const CalendarDate& date) {
 } // namespace
 
 void SectionSheet::Configure() {
-    SetFixedRowCount(0);
     SetColumnCount(kColumns);
     SetRowCount(1);
     SetFixedRowCount(1);
@@ -72,41 +65,34 @@ void SectionSheet::Configure() {
         SetItemText(0, col, kLooks[col].heading);
         SetColumnWidth(col, kLooks[col].width);
     }
+    for (const Precision& p : kPrecisions)
+        SetColumnType(new EColTypeFLT(p.column, p.decimals));
+    SetColumnType(new EColTypeINT(kBarrels));
+    CStringArray linings;
+    for (const Lining& l : Linings()) {
+        CString option;
+        option.Format("%s (n %.3f)", l.name, l.roughness);
+        linings.Add(option);
+    }
+    SetColumnType(new EColTypeCBX(kLining, &linings, true, true));
+    SetColumnType(new EColTypeTIM(kLined, "^", true, false, true));
+    SetColumnType(new EColTypeTOG(kSurveyed, ""));
+    SetColumnType(new EColTypeCOLR(kColour));
+    CStringArray choices;
+    choices.Add(kConstantChoice);
+    choices.Add(kHydrographChoice);
+    SetColumnType(new EColTypeFXY(kInflow, &choices, "0"));
+    SetColumnType(new EColTypeBTN(kCalculate, "Flow..."));
     SetHandleTabKey(TRUE);
 }
 
 void SectionSheet::MakeRow(int row) {
     SetItemTextFmt(row, kSectionNumber, "%d", row);
-    for (const Precision& p : kPrecisions) {
-        SetCellType(row, p.column, RUNTIME_CLASS(CGridCellFltCtrl));
-        static_cast<CGridCellFltCtrl*>(GetCell(row, p.column))->SetPrecision(p.decimals, false, -1);
-    }
-    SetCellType(row, kBarrels, RUNTIME_CLASS(CGridCellIntCtrl));
-    SetCellType(row, kLining, RUNTIME_CLASS(CGridCellCombo));
-    auto* lining = static_cast<CGridCellCombo*>(GetCell(row, kLining));
-    CStringArray names;
-    for (const Lining& l : Linings()) {
-        CString option;
-        option.Format("%s (n %.3f)", l.name, l.roughness);
-        names.Add(option);
-    }
-    lining->SetOptions(names);
-    lining->SetStyle(CBS_DROPDOWNLIST);
-    SetCellType(row, kInflow, RUNTIME_CLASS(CGridCellFltXYCrv));
-    CStringArray choices;
-    choices.Add(kConstantChoice);
-    choices.Add(kHydrographChoice);
-    static_cast<CGridCellFltXYCrv*>(GetCell(row, kInflow))->SetOptions(choices);
-    SetCellType(row, kLined, RUNTIME_CLASS(CGridCellTimeCtrl));
-    static_cast<CGridCellTimeCtrl*>(GetCell(row, kLined))->SetShowTime(false);
-    SetCellType(row, kSurveyed, RUNTIME_CLASS(CGridCellCheckbox));
-    SetCellType(row, kCalculate, RUNTIME_CLASS(CGridCellButton));
-    SetItemText(row, kCalculate, "Flow...");
-    SetCellType(row, kColour, RUNTIME_CLASS(CGridColorCell));
-    for (int col : {kSurveyed, kColour, kDepth, kLevel, kCalculate})
+    // The worked-out columns have no type: plain cells that the user reads but does not edit.
+    for (int col : {kDepth, kLevel}) {
         SetItemState(row, col, GetItemState(row, col) | GV_STATE_READONLY);
-    for (int col : {kDepth, kLevel})
         SetItemBkColour(row, col, GetSysColor(COLOR_BTNFACE));
+    }
 }
 
 void SectionSheet::Show(const Reach& reach) {

@@ -6,9 +6,9 @@
 
 #include "Reach.h"
 
-#include "grid/GridCtrl.h"
+#include "spreadsheet/SpreadSheetORVA.h"
 
-class SectionSheet : public CGridCtrl {
+class SectionSheet : public CSpreadSheetORVA {
 public:
     enum Column {
         kSectionNumber,
@@ -28,9 +28,7 @@ public:
         kColumns
     };
 
-    SectionSheet() : CGridCtrl(0, 0, 0, 0) {}
-
-    // Lays out the columns of an empty sheet; call once its window exists.
+    // Lays out and types the columns of an empty sheet; call once its window exists.
     void Configure();
     // Rows for every section of the reach, with the worked-out columns from its profile.
     void Show(const Reach& reach);
