@@ -39,9 +39,9 @@ shot 1-started
 
 # The frame sits at (0, 0): its border is 4 pixels and its caption and menu bar 19 each, so the
 # document area starts at (6, 44); the menu bar's File lies at x = 19 and Reach at x = 57, on
-# y = 31, and their pop-ups' items start on y = 52, 17 pixels apart. The reach window opens at its top left corner: the sheet's
-# heading row lies on y = 78 and its rows follow 19 pixels apart; the Invert column is centred
-# on x = 172. The long profile's plot area spans x 80 to 570 and y 340 to 730.
+# y = 31, and their pop-ups' items start on y = 52, 17 pixels apart. The reach window opens at
+# its top left corner: the sheet's heading row lies on y = 80 and its rows follow 22 pixels
+# apart; the Invert column is centred on x = 172. The long profile's plot area spans x 80 to 570 and y 340 to 730.
 active=#0A246A
 
 # File > Open Example: Mill Creek.
@@ -53,7 +53,7 @@ expect "the reach window opened active" "$(pixel 3-reach-opened 300 56)" "$activ
 
 # The invert of section 2: a click on the cell, the new level typed, Return.
 xdotool windowfocus --sync "$frame" # the menu's pop-up had the keyboard
-click 172 116
+click 172 124
 xdotool type --delay 120 "102.3"
 keys Return
 shot 4-invert-edited

@@ -157,6 +157,24 @@ TEST_F(ScriptedRun, EditingCellsOfEveryTypeMovesThePlotsAndTheRecoveryCopy) {
     EXPECT_TRUE(document.reach.sections[3].surveyed);
     EXPECT_EQ(DataOf(document.RatingPlot()).y.size(), 6u);
 
+    // The space bar ticks the box that has the focus, as a click does: section 4 again, off.
+    m_ui.PressKey(VK_SPACE);
+    EXPECT_FALSE(document.reach.sections[3].surveyed);
+    EXPECT_EQ(DataOf(document.RatingPlot()).y.size(), 5u);
+    m_ui.PressKey(VK_SPACE);
+    EXPECT_TRUE(document.reach.sections[3].surveyed);
+
+    // The sheet's own menu on a colour cell, which the user cannot type into: Copy only.
+    MenuResponder menus;
+    menus.Dismiss();
+    m_ui.RightClick(sheet, CellCentre(2, Column::kColour));
+    ASSERT_EQ(menus.Count(), 1);
+    const ShownMenuItem* cut = MenuResponder::FindItem(menus.Last().items, "Cut");
+    const ShownMenuItem* copy = MenuResponder::FindItem(menus.Last().items, "Copy");
+    ASSERT_TRUE(cut && copy);
+    EXPECT_TRUE(cut->state & MF_GRAYED);
+    EXPECT_FALSE(copy->state & MF_GRAYED);
+
     // A colour from the chooser: section 1's rating curve takes it.
     ModalResponder dialogs;
     const unsigned long original = document.reach.sections[0].colour;
