@@ -2,7 +2,6 @@
 
 #include "HydrographDialog.h"
 
-#include "cells/GridCellFltCtrl.h"
 #include "grid/GridNotify.h"
 #include "platform/base/Messages.h"
 #include "platform/window/DialogTemplate.h"
@@ -32,6 +31,12 @@ void RegisterTemplate() {
     dialog.style |= WS_THICKFRAME;
     dialog.items = {
         {"Static", "", HydrographDialog::kNoteId, WS_VISIBLE, {6, 6, kWidth - 6, 16}},
+        {GRIDCTRL_CLASSNAME,
+         "",
+         HydrographDialog::kTableId,
+         WS_VISIBLE | WS_TABSTOP,
+         {6, 20, kTableWidth + 6, kHeight - 26},
+         WS_EX_CLIENTEDGE},
         {kPlotCanvasClass,
          "",
          HydrographDialog::kCanvasId,
@@ -75,22 +80,21 @@ HydrographDialog::HydrographDialog(const Inflow& inflow, const char* section, CW
     m_section = section;
 }
 
+void HydrographDialog::DoDataExchange(CDataExchange* dx) {
+    CDialogORVA::DoDataExchange(dx);
+    DDX_Control(dx, kTableId, m_table);
+}
+
 BOOL HydrographDialog::OnInitDialog() {
     const BOOL result = CDialogORVA::OnInitDialog();
     SetDlgItemText(kNoteId, ("Inflow at " + m_section + ": time (h) and rate (m3/s)").c_str());
-    RECT place{6, 20, kTableWidth + 6, kHeight - 26};
-    MapDialogRect(&place);
-    m_table.Create(place, this, kTableId);
     m_table.SetColumnCount(2);
-    m_table.SetRowCount(kRows + 1);
     m_table.SetFixedRowCount(1);
+    for (int col : {kTime, kRate})
+        m_table.SetColumnType(new EColTypeFLT(col, 2));
+    m_table.SetRowCount(kRows + 1);
     m_table.SetItemText(0, kTime, "Time (h)");
     m_table.SetItemText(0, kRate, "Inflow (m3/s)");
-    for (int row = 1; row <= kRows; ++row)
-        for (int col : {kTime, kRate}) {
-            m_table.SetCellType(row, col, RUNTIME_CLASS(CGridCellFltCtrl));
-            static_cast<CGridCellFltCtrl*>(m_table.GetCell(row, col))->SetPrecision(2, false, -1);
-        }
     for (size_t i = 0; i < m_inflow.curve.size() && int(i) < kRows; ++i) {
         m_table.SetItemTextFmt(int(i) + 1, kTime, "%g", m_inflow.curve[i].first);
         m_table.SetItemTextFmt(int(i) + 1, kRate, "%g", m_inflow.curve[i].second);

@@ -6,9 +6,9 @@
 #include "Reach.h"
 
 #include "controls/DialogORVA.h"
-#include "grid/GridCtrl.h"
 #include "plot/Plot.h"
 #include "plot/PlotCanvas.h"
+#include "spreadsheet/SpreadSheetORVA.h"
 
 #include <memory>
 #include <string>
@@ -23,10 +23,11 @@ public:
 
     // The hydrograph as the dialog closed with OK: its points in order of time.
     const Inflow& Result() const { return m_inflow; }
-    CGridCtrl& Table() { return m_table; }
+    CSpreadSheetORVA& Table() { return m_table; }
     EPlot* Plot() const { return m_plot.get(); }
 
 protected:
+    void DoDataExchange(CDataExchange* dx) override;
     BOOL OnInitDialog() override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -41,7 +42,7 @@ private:
 
     Inflow m_inflow;
     std::string m_section;
-    CGridCtrl m_table{0, 0, 0, 0};
+    CSpreadSheetORVA m_table; // takes over its placeholder in the template
     PlotCanvas m_canvas;
     std::unique_ptr<EPlot> m_plot; // the canvas's chart; it goes before the canvas
 };
