@@ -1,8 +1,9 @@
 // Dialogs from templates in code and the message box as a dialog: the plot's "Axis Titles"
 // dialog laid out in dialog units of its font, a small options dialog with a radio group, a
-// modal run of the axis dialog answered as a user would, and message boxes of several kinds.
-// On a display both dialogs stay open to be worked with the keyboard: Enter in the axis dialog
-// shows the titles in a message box.
+// modal run of the axis dialog answered as a user would, the options dialog answered by its
+// labels' underlined letters (Alt+B, Alt+G), and message boxes of several kinds. On a display both
+// dialogs stay open to be worked with the keyboard: Enter in the axis dialog shows the titles in a
+// message box.
 
 #include "GalleryPage.h"
 
@@ -34,9 +35,9 @@ DialogTemplate AxisTitlesTemplate() {
     t.pointSize = 8;
     t.items = {
         {"Button", "Axis Titles", kLabel, WS_VISIBLE | BS_GROUPBOX, {5, 5, 185, 75}},
-        {"Static", "X Axis:", kLabel, WS_VISIBLE | SS_LEFT, {10, 25, 40, 33}},
+        {"Static", "&X Axis:", kLabel, WS_VISIBLE | SS_LEFT, {10, 25, 40, 33}},
         {"Edit", "", kXTitle, field | WS_GROUP, {45, 22, 150, 36}},
-        {"Static", "Y Axis:", kLabel, WS_VISIBLE | SS_LEFT, {10, 45, 42, 53}},
+        {"Static", "&Y Axis:", kLabel, WS_VISIBLE | SS_LEFT, {10, 45, 42, 53}},
         {"Edit", "", kYTitle, field, {45, 42, 150, 56}},
         {"Button",
          "OK",
@@ -54,19 +55,19 @@ DialogTemplate OptionsTemplate() {
     t.items = {
         {"Button", "Plotting method", kLabel, shown | BS_GROUPBOX, {6, 4, 90, 62}},
         {"Button",
-         "Lines",
+         "&Lines",
          UINT(kLines),
          shown | WS_TABSTOP | WS_GROUP | BS_AUTORADIOBUTTON,
          {12, 16, 84, 26}},
-        {"Button", "Points", UINT(kPoints), shown | BS_AUTORADIOBUTTON, {12, 30, 84, 40}},
-        {"Button", "Bars", UINT(kBars), shown | BS_AUTORADIOBUTTON, {12, 44, 84, 54}},
+        {"Button", "&Points", UINT(kPoints), shown | BS_AUTORADIOBUTTON, {12, 30, 84, 40}},
+        {"Button", "&Bars", UINT(kBars), shown | BS_AUTORADIOBUTTON, {12, 44, 84, 54}},
         {"Button",
-         "Legend",
+         "L&egend",
          UINT(kLegend),
          shown | WS_TABSTOP | WS_GROUP | BS_AUTOCHECKBOX,
          {98, 16, 154, 26}},
         {"Button",
-         "Grid lines",
+         "&Grid lines",
          UINT(kGridLines),
          shown | WS_TABSTOP | BS_AUTOCHECKBOX,
          {98, 30, 154, 40}},
@@ -173,6 +174,25 @@ void ShowMessageBoxes(GalleryContext& context, ModalResponder& responder) {
     }
 }
 
+// The options dialog run modally and answered by mnemonics: Alt+B chooses Bars, Alt+G ticks
+// Grid lines, and Enter takes them.
+void AnswerOptionsByMnemonics(GalleryContext& context, ModalResponder& responder) {
+    responder.Next().Run([&context](CDialog& dialog, UiDriver& user) {
+        user.KeyDown(VK_MENU);
+        user.PressKey('B');
+        user.PressKey('G');
+        user.KeyUp(VK_MENU);
+        context.Capture(dialog.m_hWnd, "31-dialogs-options-mnemonics");
+        user.PressKey(VK_RETURN);
+    });
+    OptionsDialog modal;
+    const INT_PTR result = modal.DoModal();
+    context.Print("options answered by Alt+B, Alt+G and Enter: %s, method %s, grid lines %s",
+                  result == IDOK ? "IDOK" : "something else",
+                  modal.method == 2 ? "bars" : "not bars",
+                  modal.gridLines == BST_CHECKED ? "ticked" : "not ticked");
+}
+
 void BuildDialogsPage(GalleryContext& context) {
     RegisterDialogTemplate(kAxisTitlesTemplate, AxisTitlesTemplate());
     RegisterDialogTemplate(kOptionsTemplate, OptionsTemplate());
@@ -214,6 +234,7 @@ void BuildDialogsPage(GalleryContext& context) {
     if (responder.Count() > 1)
         context.Print("its message box said: %s",
                       responder.Shown()[1].TextOf(kMessageBoxTextId).c_str());
+    AnswerOptionsByMnemonics(context, responder);
     ShowMessageBoxes(context, responder);
     axisTitles.ShowWindow(SW_SHOW);
     options.ShowWindow(SW_SHOW);

@@ -1,11 +1,16 @@
 // The multiple-document frame: a frame with its menu bar holding two plot documents (the second
 // active, the first not), each with its icon, and the plot's right-click menu open over the
-// active one with a check, a grey item, a separator and a sub-menu. On a display the frame
-// stays: the menu bar's commands arrange the documents, and a right click opens the menu.
+// active one with a check, a grey item, a separator and a sub-menu. A second picture shows the
+// active plot maximised: its icon and buttons on the frame's menu bar and its name in the
+// frame's caption; a click on the bar's restore button then gives it back its place. A third
+// shows the other plot minimised to a title bar at the client's bottom. On a display the frame
+// stays, both plots restored: the menu bar's commands arrange the documents, and a right click
+// opens the menu.
 
 #include "GalleryPage.h"
 
 #include "platform/system/SysColors.h"
+#include "platform/system/SystemMetrics.h"
 #include "platform/testing/MenuResponder.h"
 #include "platform/testing/UiDriver.h"
 #include "platform/window/MdiFrame.h"
@@ -14,6 +19,7 @@
 #include "platform/window/WindowIcons.h"
 
 #include <cstring>
+#include <string>
 #include <vector>
 
 namespace {
@@ -177,6 +183,53 @@ void CaptureWithOpenMenus(GalleryContext& context, HWND frame, const char* name)
     RedrawWindow(frame, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
+std::string TitleOf(CWnd& wnd) {
+    CString title;
+    wnd.GetWindowText(title);
+    return title.GetString();
+}
+
+// Prints a screen point as "at <name> <x> <y>" relative to the frame's corner, for a script
+// that clicks it on a display.
+void PrintPlace(GalleryContext& context, CWnd& frame, const char* name, CPoint screen) {
+    CRect outer;
+    frame.GetWindowRect(&outer);
+    context.Print("at %s %d %d", name, int(screen.x - outer.left), int(screen.y - outer.top));
+}
+
+// The middle of a caption button of a document window (HTMAXBUTTON, ...), in screen points.
+CPoint CaptionButton(CWnd& document, LRESULT button) {
+    CRect outer;
+    document.GetWindowRect(&outer);
+    for (int y = outer.top; y < outer.top + GetSystemMetrics(SM_CYCAPTION) * 2; ++y)
+        for (int x = outer.left; x < outer.right; ++x)
+            if (document.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(x, y)) == button)
+                return CPoint(x + 6, y + 6);
+    return outer.CenterPoint();
+}
+
+// The active plot maximised, pictured, and restored by a click on the bar's restore button.
+void ShowMaximized(GalleryContext& context, PlotFrame& frame, PlotDocument& document,
+                   UiDriver& driver) {
+    frame.MDIMaximize(&document);
+    driver.Pump();
+    context.Print("maximised: the frame's caption reads \"%s\"", TitleOf(frame).c_str());
+    context.Capture(frame, "32-mdi-frame-maximized");
+    // The restore button is the second from the bar's right end, just above the client.
+    CRect client;
+    frame.GetClientRect(&client);
+    const int height = GetSystemMetrics(SM_CYMENU) - 4;
+    const int width = height + 2;
+    CPoint restore(client.right - 4 - width - width / 2, -GetSystemMetrics(SM_CYMENU) / 2);
+    driver.Click(frame, restore);
+    frame.ClientToScreen(&restore);
+    PrintPlace(context, frame, "bar-restore", restore);
+    BOOL maximized = TRUE;
+    frame.MDIGetActive(&maximized);
+    context.Print("after a click on the bar's restore button: %s, the caption reads \"%s\"",
+                  maximized ? "still maximised" : "restored", TitleOf(frame).c_str());
+}
+
 void BuildMdiFramePage(GalleryContext& context) {
     RegisterResources();
     static PlotFrame frame;
@@ -219,6 +272,15 @@ void BuildMdiFramePage(GalleryContext& context) {
     CPoint at(260, 150);
     documents[1]->ClientToScreen(&at);
     documents[1]->ShowMenu(at);
+    ShowMaximized(context, frame, *documents[1], driver);
+
+    documents[0]->SendMessage(WM_SYSCOMMAND, SC_MINIMIZE);
+    driver.Pump();
+    context.Capture(frame, "32-mdi-frame-minimized");
+    documents[0]->SendMessage(WM_SYSCOMMAND, SC_RESTORE);
+    frame.MDIActivate(documents[1]);
+    driver.Pump();
+    PrintPlace(context, frame, "plot-maximize", CaptionButton(*documents[1], HTMAXBUTTON));
     for (const ShownMenuItem& item : menus.Last().items)
         context.Print("  menu item \"%s\"%s%s%s", item.text.c_str(),
                       item.state & MF_CHECKED ? " checked" : "",

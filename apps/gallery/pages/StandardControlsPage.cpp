@@ -1,10 +1,12 @@
 // The platform's standard controls in a dialog made from a template in code: static text, edits
-// (one with text selected, read-only, disabled, multi-line), push buttons, check boxes in their
-// three states, a radio group, group boxes, both kinds of combo box and a size grip. A second
-// picture shows a combo with its list open, and the list itself.
+// (one with text selected, read-only, disabled, multi-line with its words wrapped), push buttons,
+// check boxes in their three states, a radio group, group boxes, both kinds of combo box and a size
+// grip, their labels with underlined mnemonics. A second picture shows a combo opened from the
+// keyboard (a typed letter chose an item, F4 dropped the list), and the list itself.
 
 #include "GalleryPage.h"
 
+#include "platform/testing/UiDriver.h"
 #include "platform/widgets/Button.h"
 #include "platform/widgets/ComboBox.h"
 #include "platform/widgets/Edit.h"
@@ -37,33 +39,36 @@ DialogTemplate ControlsTemplate() {
         t.items.push_back({cls, text, id, style | WS_VISIBLE, r});
     };
     add("Button", "Section", 0xFFFF, BS_GROUPBOX, {6, 4, 162, 118});
-    add("Static", "Name:", 0xFFFF, SS_LEFT, {12, 18, 52, 28});
+    add("Static", "&Name:", 0xFFFF, SS_LEFT, {12, 18, 52, 28});
     add("Edit", "Main channel", kName, visible | WS_BORDER | ES_AUTOHSCROLL, {56, 16, 156, 30});
-    add("Static", "Station:", 0xFFFF, SS_LEFT, {12, 36, 52, 46});
+    add("Static", "S&tation:", 0xFFFF, SS_LEFT, {12, 36, 52, 46});
     add("Edit", "4+250 (read-only)", kReadOnly, visible | WS_BORDER | ES_READONLY,
         {56, 34, 156, 48});
-    add("Static", "Slope:", 0xFFFF, SS_LEFT, {12, 54, 52, 64});
+    add("Static", "S&lope:", 0xFFFF, SS_LEFT, {12, 54, 52, 64});
     add("Edit", "0.0015", kDisabledEdit, visible | WS_BORDER | WS_DISABLED | ES_RIGHT,
         {56, 52, 156, 66});
-    add("Edit", "Multi-line notes:\r\nsecond line\r\nthird line", kNotes,
-        visible | WS_BORDER | WS_VSCROLL | ES_MULTILINE | ES_WANTRETURN, {12, 72, 156, 112});
+    add("Edit",
+        "Multi-line notes: the inlet apron is cracked along its downstream edge.\r\nRecheck in "
+        "spring.",
+        kNotes, visible | WS_BORDER | WS_VSCROLL | ES_MULTILINE | ES_WANTRETURN,
+        {12, 72, 156, 112});
 
     add("Button", "Options", 0xFFFF, BS_GROUPBOX, {168, 4, 324, 118});
-    add("Button", "Checked box", kChecked, visible | BS_AUTOCHECKBOX, {176, 16, 318, 28});
-    add("Button", "Unchecked box", kUnchecked, visible | BS_AUTOCHECKBOX, {176, 30, 318, 42});
-    add("Button", "Third state", kThird, visible | BS_AUTO3STATE, {176, 44, 318, 56});
+    add("Button", "&Checked box", kChecked, visible | BS_AUTOCHECKBOX, {176, 16, 318, 28});
+    add("Button", "Unchec&ked box", kUnchecked, visible | BS_AUTOCHECKBOX, {176, 30, 318, 42});
+    add("Button", "T&hird state", kThird, visible | BS_AUTO3STATE, {176, 44, 318, 56});
     add("Button", "Disabled box", kDisabledCheck, visible | BS_AUTOCHECKBOX | WS_DISABLED,
         {176, 58, 318, 70});
-    add("Button", "Steady flow", kRadioA, visible | BS_AUTORADIOBUTTON | WS_GROUP,
+    add("Button", "&Steady flow", kRadioA, visible | BS_AUTORADIOBUTTON | WS_GROUP,
         {176, 74, 318, 86});
-    add("Button", "Unsteady flow", kRadioB, visible | BS_AUTORADIOBUTTON, {176, 88, 318, 100});
+    add("Button", "Unsteady &flow", kRadioB, visible | BS_AUTORADIOBUTTON, {176, 88, 318, 100});
     add("Button", "Disabled choice", kRadioC, visible | BS_AUTORADIOBUTTON | WS_DISABLED,
         {176, 102, 318, 114});
 
-    add("Static", "Units:", 0xFFFF, SS_RIGHT, {6, 128, 40, 138});
+    add("Static", "&Units:", 0xFFFF, SS_RIGHT, {6, 128, 40, 138});
     add("ComboBox", "m3/s", kUnits, visible | CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL,
         {44, 126, 150, 200});
-    add("Static", "Method:", 0xFFFF, SS_RIGHT, {156, 128, 196, 138});
+    add("Static", "&Method:", 0xFFFF, SS_RIGHT, {156, 128, 196, 138});
     add("ComboBox", "", kMethod, visible | CBS_DROPDOWNLIST | WS_VSCROLL, {200, 126, 324, 200});
     add("Static", "Centred static text, wrapped when it is longer than its line", 0xFFFF, SS_CENTER,
         {6, 146, 324, 164});
@@ -135,14 +140,16 @@ void BuildStandardControlsPage(GalleryContext& context) {
     auto* method = static_cast<CComboBox*>(dropped.GetDlgItem(kMethod));
     dropped.ShowWindow(SW_SHOWNA);
     method->SetFocus();
-    method->ShowDropDown();
+    UiDriver user;
+    user.Type("mm"); // the second item beginning with "m" after the selection
+    user.PressKey(VK_F4);
     context.Capture(dropped.m_hWnd, "30-standard-controls-dropped");
     CRect list;
     method->GetDroppedControlRect(&list);
     context.Capture(WindowFromPoint(list.TopLeft() + CPoint(2, 2)), "30-standard-controls-list");
     CString chosen;
     method->GetLBText(method->GetCurSel(), chosen);
-    context.Print("method list open: %s, %d items, \"%s\" selected",
+    context.Print("typed \"mm\" and F4: method list open: %s, %d items, \"%s\" selected",
                   method->GetDroppedState() ? "yes" : "no", method->GetCount(), chosen.GetString());
     // The pictures are taken: on a display only the first dialog stays, for the user (or a
     // script) to work.

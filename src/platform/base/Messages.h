@@ -361,6 +361,7 @@ constexpr UINT VK_DELETE = 0x2E;
 constexpr UINT VK_F1 = 0x70;
 constexpr UINT VK_F2 = 0x71;
 constexpr UINT VK_F4 = 0x73;
+constexpr UINT VK_F6 = 0x75;
 constexpr UINT VK_F10 = 0x79;
 constexpr UINT VK_LSHIFT = 0xA0;
 constexpr UINT VK_RSHIFT = 0xA1;

@@ -154,10 +154,18 @@ LRESULT ComboBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             OnEditCommand(HIWORD(wParam));
         return 0;
     case WM_KEYDOWN:
-    case WM_SYSKEYDOWN:
-        OnKeyDown(UINT(wParam), message == WM_SYSKEYDOWN);
+        OnKeyDown(UINT(wParam));
         return 0;
+    case WM_SYSKEYDOWN:
+        if (wParam == VK_DOWN || wParam == VK_UP)
+            ToggleList();
+        // The frame hears every system key, so that Alt released after Alt+Down does not open
+        // the menu bar, and Alt alone still does.
+        return Alive() ? Default(message, wParam, lParam) : 0;
     case WM_CHAR:
+        // A character sent to a drop-down is typed into its field.
+        if (HasEdit())
+            return ::SendMessage(Edit(), message, wParam, lParam);
         OnChar(UINT(wParam));
         return 0;
     case WM_LBUTTONDOWN:
@@ -514,17 +522,18 @@ void ComboBehaviour::MoveSelection(int index) {
 
 // Keys, mouse and focus.
 
-void ComboBehaviour::OnKeyDown(UINT key, bool alt) {
-    if (key == VK_F4 || (alt && (key == VK_DOWN || key == VK_UP))) {
-        if (m_dropped)
-            CloseUp(true);
-        else
-            DropDown();
-        return;
-    }
-    if (alt)
-        return;
+void ComboBehaviour::ToggleList() {
+    if (m_dropped)
+        CloseUp(true);
+    else
+        DropDown();
+}
+
+void ComboBehaviour::OnKeyDown(UINT key) {
     switch (key) {
+    case VK_F4:
+        ToggleList();
+        return;
     case VK_RETURN:
         CloseUp(true);
         return;

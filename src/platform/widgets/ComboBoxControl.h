@@ -64,7 +64,9 @@ private:
     void MoveSelection(int index);
 
     // Input.
-    void OnKeyDown(UINT key, bool alt);
+    // F4, Alt+Down and Alt+Up open a closed list and close an open one, taking its choice.
+    void ToggleList();
+    void OnKeyDown(UINT key);
     void OnChar(UINT ch);
     void OnButtonDown(CPoint point);
     void OnEditCommand(UINT code);

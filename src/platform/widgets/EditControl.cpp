@@ -31,6 +31,7 @@ LRESULT EditBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NCCREATE: {
         const auto* cs = reinterpret_cast<const CREATESTRUCT*>(lParam);
         m_model.SetText(cs->lpszName && !IS_INTRESOURCE(cs->lpszName) ? cs->lpszName : "");
+        Relayout();
         return Default(message, wParam, lParam);
     }
     case WM_CREATE:
@@ -50,11 +51,13 @@ LRESULT EditBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         return m_model.Length();
     case WM_SETFONT:
         Default(message, wParam, lParam);
+        Relayout();
         ScrollToCaret();
         if (LOWORD(std::uintptr_t(lParam)))
             Redraw();
         return 0;
     case WM_SIZE:
+        Relayout();
         ScrollToCaret();
         Redraw();
         return 0;
@@ -174,6 +177,7 @@ LRESULT EditBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             m_leftMargin = left == int(EC_USEFONTINFO) ? 1 : left;
         if (wParam & EC_RIGHTMARGIN)
             m_rightMargin = right == int(EC_USEFONTINFO) ? 1 : right;
+        Relayout();
         ScrollToCaret();
         Redraw();
         return 0;
@@ -184,28 +188,32 @@ LRESULT EditBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         if (lParam)
             *reinterpret_cast<RECT*>(lParam) = FormatRect();
         return 0;
+    // Lines are those on screen, as wrapping broke them.
     case EM_GETLINECOUNT:
-        return m_model.LineCount();
+        return LineCount();
     case EM_LINEINDEX: {
-        const int line = int(wParam) == -1 ? m_model.LineFromPos(m_model.Caret()) : int(wParam);
-        return line < m_model.LineCount() ? m_model.LineStart(line) : -1;
+        const int line = int(wParam) == -1 ? CaretLine() : int(wParam);
+        return line >= 0 && line < LineCount() ? Lines()[size_t(line)].start : -1;
     }
     case EM_LINELENGTH:
-        return int(wParam) == -1 ? m_model.LineLength(m_model.LineFromPos(m_model.Caret()))
-                                 : m_model.LineLength(m_model.LineFromPos(int(wParam)));
+        return Lines()[size_t(int(wParam) == -1 ? CaretLine() : LineOf(int(wParam)))].length;
     case EM_LINEFROMCHAR:
-        return m_model.LineFromPos(int(wParam) == -1 ? m_model.SelStart() : int(wParam));
+        // -1: the caret's line, or the line where the selection begins.
+        if (int(wParam) != -1)
+            return LineOf(int(wParam));
+        return m_model.HasSelection() ? LineOf(m_model.SelStart()) : CaretLine();
     case EM_GETFIRSTVISIBLELINE:
         return Multiline() ? m_firstLine : 0;
     case EM_GETLINE: {
         // The first word of the buffer holds its size; the line is not zero-terminated.
-        if (!lParam || int(wParam) >= m_model.LineCount())
+        if (!lParam || int(wParam) < 0 || int(wParam) >= LineCount())
             return 0;
         auto* buffer = reinterpret_cast<char*>(lParam);
         WORD size;
         std::memcpy(&size, buffer, sizeof size);
-        const int start = m_model.LineStart(int(wParam));
-        const int n = std::min<int>(size, m_model.LineLength(int(wParam)));
+        const DisplayLine& line = Lines()[size_t(wParam)];
+        const int start = line.start;
+        const int n = std::min<int>(size, line.length);
         std::memcpy(buffer, m_model.Text().data() + start, size_t(n));
         return n;
     }
@@ -215,7 +223,7 @@ LRESULT EditBehaviour::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     case EM_CHARFROMPOS: {
         const int pos = PointToPos(PointOf(lParam));
-        return MAKELONG(WORD(pos), WORD(m_model.LineFromPos(pos)));
+        return MAKELONG(WORD(pos), WORD(LineOf(pos)));
     }
     default:
         return Default(message, wParam, lParam);
@@ -248,14 +256,16 @@ void EditBehaviour::OnKeyDown(UINT key) {
     case VK_END: {
         const bool home = key == VK_HOME;
         int to;
+        bool atLineEnd = false;
         if (control || !Multiline()) {
             to = home ? 0 : m_model.Length();
         } else {
-            const int line = m_model.LineFromPos(caret);
-            to = m_model.LineStart(line) + (home ? 0 : m_model.LineLength(line));
+            const DisplayLine& line = Lines()[size_t(CaretLine())];
+            to = line.start + (home ? 0 : line.length);
+            atLineEnd = !home && line.wrapped;
         }
         m_model.MoveCaret(to, shift);
-        Select(m_model.Anchor(), m_model.Caret());
+        Select(m_model.Anchor(), m_model.Caret(), atLineEnd);
         break;
     }
     case VK_UP:
@@ -269,11 +279,12 @@ void EditBehaviour::OnKeyDown(UINT key) {
         }
         const int page = std::max(1, FormatRect().Height() / LineHeight());
         const int step = key == VK_UP ? -1 : key == VK_DOWN ? 1 : key == VK_PRIOR ? -page : page;
-        const int line = std::clamp(m_model.LineFromPos(caret) + step, 0, m_model.LineCount() - 1);
-        const int x = keptX >= 0 ? keptX : PosToPoint(caret).x;
-        const int to = PointToPos(CPoint(x, PosToPoint(m_model.LineStart(line)).y));
+        const int line = std::clamp(CaretLine() + step, 0, LineCount() - 1);
+        const int x = keptX >= 0 ? keptX : PosToPoint(caret, m_caretAtLineEnd).x;
+        bool atLineEnd = false;
+        const int to = PointToPos(CPoint(x, PosToPoint(Lines()[size_t(line)].start).y), &atLineEnd);
         m_model.MoveCaret(to, shift);
-        Select(m_model.Anchor(), m_model.Caret());
+        Select(m_model.Anchor(), m_model.Caret(), atLineEnd);
         m_preferredX = x;
         break;
     }
@@ -379,7 +390,7 @@ void EditBehaviour::OnVScroll(UINT request) {
         ScrollLines(0);
         break;
     case SB_BOTTOM:
-        ScrollLines(m_model.LineCount());
+        ScrollLines(LineCount());
         break;
     default:
         break;
@@ -395,8 +406,9 @@ void EditBehaviour::OnButtonDown(CPoint point, bool extend) {
         if (!Alive()) // a focus handler may have closed the control
             return;
     }
-    const int pos = PointToPos(point);
-    Select(extend ? m_model.Anchor() : pos, pos);
+    bool atLineEnd = false;
+    const int pos = PointToPos(point, &atLineEnd);
+    Select(extend ? m_model.Anchor() : pos, pos, atLineEnd);
     m_selecting = true;
     ::SetCapture(hwnd);
 }
@@ -404,7 +416,9 @@ void EditBehaviour::OnButtonDown(CPoint point, bool extend) {
 void EditBehaviour::OnMouseMove(CPoint point) {
     if (!m_selecting)
         return;
-    Select(m_model.Anchor(), PointToPos(point));
+    bool atLineEnd = false;
+    const int pos = PointToPos(point, &atLineEnd);
+    Select(m_model.Anchor(), pos, atLineEnd);
 }
 
 void EditBehaviour::OnDoubleClick(CPoint point) {
@@ -436,6 +450,8 @@ void EditBehaviour::OnKillFocus() {
 
 LRESULT EditBehaviour::OnSetText(const char* text) {
     m_model.SetText(text ? text : "");
+    Relayout();
+    m_caretAtLineEnd = false;
     m_modified = false;
     m_scrollX = 0;
     m_firstLine = 0;
@@ -456,8 +472,9 @@ LRESULT EditBehaviour::OnGetText(WPARAM maxCount, char* buffer) const {
     return LRESULT(n);
 }
 
-void EditBehaviour::Select(int anchor, int caret) {
+void EditBehaviour::Select(int anchor, int caret, bool atLineEnd) {
     m_model.Select(anchor, caret);
+    m_caretAtLineEnd = atLineEnd;
     ScrollToCaret();
     RestartCaretBlink();
     Redraw();
@@ -467,6 +484,8 @@ bool EditBehaviour::Change(std::string_view text, bool typing) {
     const std::string before = m_model.Text();
     const bool fits = m_model.ReplaceSelection(text, typing);
     const bool changed = m_model.Text() != before;
+    m_caretAtLineEnd = false;
+    Relayout();
     ScrollToCaret();
     RestartCaretBlink();
     Redraw();
@@ -520,6 +539,8 @@ void EditBehaviour::Paste() {
 void EditBehaviour::Undo() {
     if (ReadOnly() || !m_model.Undo())
         return;
+    m_caretAtLineEnd = false;
+    Relayout();
     ScrollToCaret();
     Redraw();
     m_modified = true;

@@ -7,6 +7,7 @@
 #include "platform/system/SysColors.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace widgets {
 namespace {
@@ -73,7 +74,14 @@ int EditBehaviour::TextWidth(int pos, int count) const {
 
 int EditBehaviour::LineOffset(int line) const {
     const CRect format = FormatRect();
-    const int width = TextWidth(m_model.LineStart(line), m_model.LineLength(line));
+    const DisplayLine& shown = Lines()[size_t(line)];
+    // The blanks where a wrapped line breaks overhang: they take no part in its alignment.
+    int length = shown.length;
+    while (
+        shown.wrapped && length > 0 &&
+        std::isblank(static_cast<unsigned char>(m_model.Text()[size_t(shown.start + length - 1)])))
+        --length;
+    const int width = TextWidth(shown.start, length);
     const DWORD align = Style() & (ES_CENTER | ES_RIGHT);
     // Aligned lines that fit stand still; a line wider than the control scrolls from the left.
     if (align && width < format.Width()) {
@@ -83,41 +91,47 @@ int EditBehaviour::LineOffset(int line) const {
     return format.left - m_scrollX;
 }
 
-CPoint EditBehaviour::PosToPoint(int pos) const {
+CPoint EditBehaviour::PosToPoint(int pos, bool atLineEnd) const {
     pos = std::clamp(pos, 0, m_model.Length());
-    const int line = m_model.LineFromPos(pos);
-    const int start = m_model.LineStart(line);
+    int line = LineOf(pos);
+    if (atLineEnd && line > 0 && Lines()[size_t(line)].start == pos &&
+        Lines()[size_t(line - 1)].wrapped)
+        --line;
+    const DisplayLine& shown = Lines()[size_t(line)];
     const int x =
-        LineOffset(line) + TextWidth(start, std::min(pos - start, m_model.LineLength(line)));
+        LineOffset(line) + TextWidth(shown.start, std::min(pos - shown.start, shown.length));
     const int y = FormatRect().top + (line - m_firstLine) * LineHeight();
     return CPoint(x, y);
 }
 
-int EditBehaviour::PointToPos(CPoint point) const {
+int EditBehaviour::PointToPos(CPoint point, bool* atLineEnd) const {
     const CRect format = FormatRect();
     int line = 0;
     if (Multiline())
         line = std::clamp(m_firstLine + (point.y - format.top) / LineHeight() -
                               (point.y < format.top ? 1 : 0),
-                          0, m_model.LineCount() - 1);
-    const int start = m_model.LineStart(line);
-    const int length = m_model.LineLength(line);
+                          0, LineCount() - 1);
+    const DisplayLine& shown = Lines()[size_t(line)];
     const int x = point.x - LineOffset(line);
+    if (atLineEnd)
+        *atLineEnd = false;
     // The nearest boundary between characters: past the middle of a character is after it.
     int previous = 0;
-    for (int i = 1; i <= length; ++i) {
-        const int edge = TextWidth(start, i);
+    for (int i = 1; i <= shown.length; ++i) {
+        const int edge = TextWidth(shown.start, i);
         if (x < (previous + edge + 1) / 2)
-            return start + i - 1;
+            return shown.start + i - 1;
         previous = edge;
     }
-    return start + length;
+    if (atLineEnd)
+        *atLineEnd = shown.wrapped;
+    return shown.start + shown.length;
 }
 
 int EditBehaviour::WidestLine() const {
     int widest = 0;
-    for (int line = 0; line < m_model.LineCount(); ++line)
-        widest = std::max(widest, TextWidth(m_model.LineStart(line), m_model.LineLength(line)));
+    for (const DisplayLine& line : Lines())
+        widest = std::max(widest, TextWidth(line.start, line.length));
     return widest;
 }
 
@@ -126,8 +140,8 @@ bool EditBehaviour::ScrollToCaret() {
     const CRect format = FormatRect();
     const int width = std::max(1, format.Width());
     const int caret = m_model.Caret();
-    const int line = m_model.LineFromPos(caret);
-    const int start = m_model.LineStart(line);
+    const int line = CaretLine();
+    const int start = Lines()[size_t(line)].start;
     const int caretX = TextWidth(start, caret - start); // from the line's start, unscrolled
     // When the caret leaves the view, the text jumps by a quarter of the width, as the
     // framework's control does, so that typing on does not scroll at every character.
@@ -137,13 +151,15 @@ bool EditBehaviour::ScrollToCaret() {
     else if (caretX + kCaretWidth > m_scrollX + width)
         m_scrollX = caretX + kCaretWidth - width + jump;
     m_scrollX = std::clamp(m_scrollX, 0, std::max(0, WidestLine() + kCaretWidth - width));
+    if (WrapsWords()) // the lines fit; only blanks at a break overhang
+        m_scrollX = 0;
     if (Multiline()) {
         const int visible = std::max(1, format.Height() / LineHeight());
         if (line < m_firstLine)
             m_firstLine = line;
         else if (line >= m_firstLine + visible)
             m_firstLine = line - visible + 1;
-        m_firstLine = std::clamp(m_firstLine, 0, std::max(0, m_model.LineCount() - 1));
+        m_firstLine = std::clamp(m_firstLine, 0, std::max(0, LineCount() - 1));
     }
     UpdateScrollBar();
     return m_scrollX != oldX || m_firstLine != oldLine;
@@ -160,7 +176,7 @@ void EditBehaviour::UpdateScrollBar() {
     SCROLLINFO info{sizeof info,
                     SIF_ALL | SIF_DISABLENOSCROLL,
                     0,
-                    m_model.LineCount() - 1,
+                    LineCount() - 1,
                     UINT(VisibleLines()),
                     m_firstLine,
                     0};
@@ -168,7 +184,7 @@ void EditBehaviour::UpdateScrollBar() {
 }
 
 void EditBehaviour::ScrollLines(int firstLine) {
-    firstLine = std::clamp(firstLine, 0, std::max(0, m_model.LineCount() - VisibleLines()));
+    firstLine = std::clamp(firstLine, 0, std::max(0, LineCount() - VisibleLines()));
     if (firstLine == m_firstLine)
         return;
     m_firstLine = firstLine;
@@ -206,12 +222,12 @@ void EditBehaviour::Paint(CDC& dc) {
                          Multiline() ? format.bottom : client.bottom);
     const COLORREF text = dc.GetTextColor();
     dc.SetBkMode(TRANSPARENT);
-    const int lines = m_model.LineCount();
+    const int lines = LineCount();
     const int visible = Multiline() ? format.Height() / LineHeight() + 1 : 1;
     for (int line = m_firstLine; line < std::min(lines, m_firstLine + visible); ++line)
         PaintLine(dc, line, format, text);
     if (m_focused && m_caretShown) {
-        const CPoint caret = PosToPoint(m_model.Caret());
+        const CPoint caret = PosToPoint(m_model.Caret(), m_caretAtLineEnd);
         dc.FillSolidRect(caret.x, caret.y, kCaretWidth, LineHeight(), text);
     }
     dc.RestoreDC(saved);
@@ -220,7 +236,7 @@ void EditBehaviour::Paint(CDC& dc) {
 
 void EditBehaviour::PaintLine(CDC& dc, int line, const CRect& format, COLORREF text) {
     const std::string& all = m_model.Text();
-    const int start = m_model.LineStart(line), length = m_model.LineLength(line);
+    const int start = Lines()[size_t(line)].start, length = Lines()[size_t(line)].length;
     const int x = LineOffset(line);
     const int y = format.top + (line - m_firstLine) * LineHeight();
     dc.SetTextColor(text);

@@ -1,8 +1,11 @@
 // The keyboard interface of dialogs: which control Tab, Shift+Tab and the arrow keys lead to,
-// and what Enter and Escape press.
+// what Enter and Escape press, and which control a mnemonic ("&" in a label) activates.
 
 #include "platform/window/DialogApi.h"
+#include "platform/window/MenuRecord.h"
 
+#include <cctype>
+#include <string>
 #include <vector>
 
 namespace {
@@ -121,6 +124,67 @@ bool SwallowChar(const MSG& msg) {
     }
 }
 
+// Labels show their mnemonic unless a static asks for its "&" as it stands.
+bool HasMnemonics(HWND control, UINT code) {
+    if (code & DLGC_BUTTON)
+        return true;
+    return (code & DLGC_STATIC) && !(StyleOf(control) & SS_NOPREFIX);
+}
+
+char MnemonicOf(HWND control) {
+    std::string text(size_t(GetWindowTextLength(control)) + 1, '\0');
+    text.resize(size_t(GetWindowText(control, text.data(), int(text.size()))));
+    return wm::MenuMnemonic(text);
+}
+
+// What choosing a control by its mnemonic does: a label hands the focus to the control after it,
+// a push button is pressed, a check box or radio button takes the focus and is clicked.
+void ActivateByMnemonic(HWND dialog, HWND control, UINT code) {
+    if (code & DLGC_STATIC) {
+        const HWND next = GetNextDlgTabItem(dialog, control, FALSE);
+        if (next)
+            SendMessage(dialog, WM_NEXTDLGCTL, WPARAM(next), TRUE);
+        return;
+    }
+    if (!(code & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)))
+        SendMessage(dialog, WM_NEXTDLGCTL, WPARAM(control), TRUE);
+    // The focus handlers may have closed the dialog or the control.
+    if (IsWindow(control))
+        SendMessage(control, BM_CLICK, 0, 0);
+}
+
+// Looks for the labels that mark `ch`, from the one after the focus on. One is activated; of
+// several, the next takes the focus only, so that pressing the key again reaches the others.
+bool HandleMnemonic(HWND dialog, HWND focus, UINT ch) {
+    const char key = char(std::tolower(int(ch & 0xFF)));
+    if (ch < ' ' || key == 0)
+        return false;
+    const std::vector<HWND> children = ChildrenOf(dialog);
+    const size_t n = children.size();
+    const HWND own = OwnControl(dialog, focus);
+    size_t start = n - 1; // without a focus control the search begins with the first
+    for (size_t i = 0; i < n; ++i)
+        if (children[i] == own)
+            start = i;
+    HWND first = nullptr;
+    int matches = 0;
+    for (size_t step = 1; step <= n; ++step) {
+        const HWND h = children[(start + step) % n];
+        if (CanTakeFocus(h) && HasMnemonics(h, DlgCode(h, nullptr)) && MnemonicOf(h) == key) {
+            first = first ? first : h;
+            ++matches;
+        }
+    }
+    if (!first)
+        return false;
+    const UINT code = DlgCode(first, nullptr);
+    if (matches == 1 || (code & DLGC_STATIC))
+        ActivateByMnemonic(dialog, first, code);
+    else
+        SendMessage(dialog, WM_NEXTDLGCTL, WPARAM(first), TRUE);
+    return true;
+}
+
 } // namespace
 
 HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous) {
@@ -164,6 +228,14 @@ BOOL IsDialogMessage(HWND dialog, MSG* msg) {
     if (msg->message == WM_KEYDOWN && HandleKeyDown(dialog, *msg))
         return TRUE;
     if (msg->message == WM_CHAR && SwallowChar(*msg))
+        return TRUE;
+    // Alt+letter always looks for a mnemonic; the bare letter only where the focus control
+    // does not take it as text.
+    if (msg->message == WM_SYSCHAR && HandleMnemonic(dialog, msg->hwnd, UINT(msg->wParam)))
+        return TRUE;
+    if (msg->message == WM_CHAR &&
+        !(DlgCode(msg->hwnd, msg) & (DLGC_WANTCHARS | DLGC_WANTALLKEYS)) &&
+        HandleMnemonic(dialog, msg->hwnd, UINT(msg->wParam)))
         return TRUE;
     TranslateMessage(msg);
     DispatchMessage(msg);

@@ -121,6 +121,10 @@ void CMDIFrameWnd::MDITile() {
     ::SendMessage(m_hWndMDIClient, WM_MDITILE, 0, 0);
 }
 
+BOOL CMDIFrameWnd::PreTranslateMessage(MSG* msg) {
+    return ::TranslateMDISysAccel(m_hWndMDIClient, msg);
+}
+
 // ---- CMDIChildWnd ----
 
 BOOL CMDIChildWnd::Create(LPCSTR className, LPCSTR title, DWORD style, const RECT& rect,

@@ -31,6 +31,9 @@ struct CLIENTCREATESTRUCT {
 ORVA_API LRESULT DefFrameProc(HWND frame, HWND mdiClient, UINT message, WPARAM wParam,
                               LPARAM lParam);
 ORVA_API LRESULT DefMDIChildProc(HWND child, UINT message, WPARAM wParam, LPARAM lParam);
+// The document windows' keys: Ctrl+F4 closes the active one, Ctrl+F6 (Ctrl+Shift+F6) goes on
+// to the next (the previous). Answers whether the message was one of them.
+ORVA_API BOOL TranslateMDISysAccel(HWND mdiClient, MSG* msg);
 
 class ORVA_API CFrameWnd : public CWnd {
     DECLARE_DYNCREATE(CFrameWnd)
@@ -69,6 +72,8 @@ public:
     void MDIPrev();
     void MDICascade();
     void MDITile();
+    // Gives the document windows' keys their meaning (TranslateMDISysAccel).
+    BOOL PreTranslateMessage(MSG* msg) override;
 
 protected:
     int OnCreate(LPCREATESTRUCT cs) override;

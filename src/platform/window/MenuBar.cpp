@@ -1,6 +1,7 @@
 // A frame's menu bar: which menu a window shows, where the bar lies in the frame, and the start
 // of its tracking by the mouse or the keyboard.
 
+#include "platform/window/MdiState.h"
 #include "platform/window/MenuTracker.h"
 #include "platform/window/WindowRecord.h"
 
@@ -14,12 +15,21 @@ CRect MenuBarInWindow(const WindowRecord& w) {
     return CRect(m.border, top, std::max(m.border, w.rect.Width() - m.border), top + m.menuBar);
 }
 
+CRect MenuBarItemsInWindow(const WindowRecord& w) {
+    CRect bar = MenuBarInWindow(w);
+    if (const MdiBarControls controls = GetMdiBarControls(w); controls.child) {
+        bar.left = controls.icon.right + 2;
+        bar.right = std::max(bar.left, controls.minimize.left);
+    }
+    return bar;
+}
+
 int MenuBarItemAt(HWND frame, CPoint screen) {
     const WindowRecord* w = Find(frame);
     const MenuRecord* bar = w ? FindMenu(w->menu) : nullptr;
     if (!bar)
         return -1;
-    const std::vector<CRect> items = LayoutMenuBar(*bar, MenuBarInWindow(*w));
+    const std::vector<CRect> items = LayoutMenuBar(*bar, MenuBarItemsInWindow(*w));
     const CPoint p = screen - WindowOrigin(*w);
     for (size_t i = 0; i < items.size(); ++i)
         if (items[i].PtInRect(p) && !bar->items[i].IsSeparator())

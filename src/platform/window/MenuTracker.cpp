@@ -376,7 +376,7 @@ std::vector<CRect> MenuTracker::BarItemsOnScreen() const {
     const MenuRecord* bar = frame ? FindMenu(frame->menu) : nullptr;
     if (!bar)
         return {};
-    std::vector<CRect> items = LayoutMenuBar(*bar, MenuBarInWindow(*frame));
+    std::vector<CRect> items = LayoutMenuBar(*bar, MenuBarItemsInWindow(*frame));
     for (CRect& r : items)
         r.OffsetRect(WindowOrigin(*frame));
     return items;
@@ -675,7 +675,7 @@ BOOL GetMenuItemRect(HWND window, HMENU menu, UINT position, RECT* rect) {
     const WindowRecord* frame = Find(window);
     const MenuRecord* bar = frame && frame->menu == menu ? FindMenu(menu) : nullptr;
     if (bar) {
-        const std::vector<CRect> items = LayoutMenuBar(*bar, MenuBarInWindow(*frame));
+        const std::vector<CRect> items = LayoutMenuBar(*bar, MenuBarItemsInWindow(*frame));
         if (position >= items.size())
             return FALSE;
         *rect = items[position] + WindowOrigin(*frame);

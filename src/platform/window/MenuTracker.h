@@ -91,6 +91,9 @@ HWND MenuInputWindow();
 
 // The frame's menu bar in window coordinates (empty without a menu), and the frame's menu.
 CRect MenuBarInWindow(const WindowRecord& w);
+// The part of the bar that the menu's items lay out in: all of it, but for the controls of a
+// maximised document window at its ends.
+CRect MenuBarItemsInWindow(const WindowRecord& w);
 // Tracks the bar of `frame` with `barItem` open (-1: only the bar selected), and posts the
 // command chosen to the frame.
 void TrackMenuBar(HWND frame, int barItem, bool fromKeyboard);

@@ -23,10 +23,10 @@ const std::vector<MessageBoxButton>& ButtonsOf(UINT kind) {
     static const std::vector<MessageBoxButton> table[] = {
         {{IDOK, "OK"}},
         {{IDOK, "OK"}, {IDCANCEL, "Cancel"}},
-        {{IDABORT, "Abort"}, {IDRETRY, "Retry"}, {IDIGNORE, "Ignore"}},
-        {{IDYES, "Yes"}, {IDNO, "No"}, {IDCANCEL, "Cancel"}},
-        {{IDYES, "Yes"}, {IDNO, "No"}},
-        {{IDRETRY, "Retry"}, {IDCANCEL, "Cancel"}},
+        {{IDABORT, "&Abort"}, {IDRETRY, "&Retry"}, {IDIGNORE, "&Ignore"}},
+        {{IDYES, "&Yes"}, {IDNO, "&No"}, {IDCANCEL, "Cancel"}},
+        {{IDYES, "&Yes"}, {IDNO, "&No"}},
+        {{IDRETRY, "&Retry"}, {IDCANCEL, "Cancel"}},
     };
     return table[kind < std::size(table) ? kind : 0];
 }

@@ -1,5 +1,6 @@
 // Draws the non-client area in the classic look: the outer frame, the caption of a top-level
-// window, its menu bar, the sunken client edge, and the scroll bars.
+// window, its menu bar (with a maximised document's controls), the sunken client edge, and the
+// scroll bars.
 
 #include "platform/window/MdiState.h"
 #include "platform/window/MenuTracker.h"
@@ -15,6 +16,11 @@
 
 namespace wm {
 namespace {
+
+void DrawIcon(CDC& dc, HICON icon, const CRect& place) {
+    DrawIconEx(dc.GetSafeHdc(), place.left, place.top, icon, place.Width(), place.Height(), 0,
+               nullptr, DI_NORMAL);
+}
 
 void DrawOuterFrame(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& rect) {
     if (!m.border)
@@ -34,8 +40,9 @@ void DrawOuterFrame(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect
     rect.DeflateRect(m.border, m.border);
 }
 
-// A glyph of the caption's buttons, drawn in the button's face.
-void DrawGlyph(CDC& dc, const CRect& face, UINT command, bool maximized) {
+// A glyph of the caption's buttons (SC_CLOSE, SC_MAXIMIZE, SC_RESTORE, SC_MINIMIZE), drawn in
+// the button's face.
+void DrawGlyph(CDC& dc, const CRect& face, UINT command) {
     const COLORREF ink = GetSysColor(COLOR_BTNTEXT);
     const CPoint c = face.CenterPoint();
     switch (command) {
@@ -45,17 +52,15 @@ void DrawGlyph(CDC& dc, const CRect& face, UINT command, bool maximized) {
             dc.FillSolidRect(c.x + 1 - i, c.y - 4 + i, 2, 1, ink);
         }
         break;
+    case SC_RESTORE: // two overlapping windows
+        dc.FillSolidRect(c.x - 2, c.y - 5, 6, 2, ink);
+        dc.FillSolidRect(c.x + 3, c.y - 5, 1, 5, ink);
+        dc.FillSolidRect(c.x - 4, c.y - 2, 6, 2, ink);
+        dc.Draw3dRect(c.x - 4, c.y - 2, 6, 5, ink, ink);
+        break;
     case SC_MAXIMIZE:
-        if (maximized) {
-            // Restore: two overlapping windows.
-            dc.FillSolidRect(c.x - 2, c.y - 5, 6, 2, ink);
-            dc.FillSolidRect(c.x + 3, c.y - 5, 1, 5, ink);
-            dc.FillSolidRect(c.x - 4, c.y - 2, 6, 2, ink);
-            dc.Draw3dRect(c.x - 4, c.y - 2, 6, 5, ink, ink);
-        } else {
-            dc.FillSolidRect(c.x - 4, c.y - 4, 9, 2, ink);
-            dc.Draw3dRect(c.x - 4, c.y - 4, 9, 8, ink, ink);
-        }
+        dc.FillSolidRect(c.x - 4, c.y - 4, 9, 2, ink);
+        dc.Draw3dRect(c.x - 4, c.y - 4, 9, 8, ink, ink);
         break;
     default:
         dc.FillSolidRect(c.x - 4, c.y + 2, 6, 2, ink);
@@ -73,7 +78,10 @@ void DrawCaptionButtons(const WindowRecord& w, CDC& dc) {
             continue;
         CRect face = rect;
         dc.DrawFrameControl(&face, DFC_BUTTON, DFCS_BUTTONPUSH);
-        DrawGlyph(dc, rect, command, (w.style & WS_MAXIMIZE) != 0);
+        // The button of the state the window is in gives it back its size.
+        const bool restores = (command == SC_MAXIMIZE && (w.style & WS_MAXIMIZE)) ||
+                              (command == SC_MINIMIZE && (w.style & WS_MINIMIZE));
+        DrawGlyph(dc, rect, restores ? SC_RESTORE : command);
     }
 }
 
@@ -93,8 +101,8 @@ void DrawCaption(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& r
     // The small icon, or the big one made small, at the caption's left.
     if (const HICON icon = w.smallIcon ? w.smallIcon : w.bigIcon) {
         const int size = GetSystemMetrics(SM_CXSMICON);
-        DrawIconEx(dc.GetSafeHdc(), bar.left + 2, bar.top + (bar.Height() - size) / 2, icon, size,
-                   size, 0, nullptr, DI_NORMAL);
+        const int top = bar.top + (bar.Height() - size) / 2;
+        DrawIcon(dc, icon, CRect(bar.left + 2, top, bar.left + 2 + size, top + size));
         text.left = bar.left + size + 4;
     }
     const CaptionButtons buttons = GetCaptionButtons(w);
@@ -107,6 +115,35 @@ void DrawCaption(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& r
     rect.top += m.caption;
 }
 
+// A document without an icon of its own shows a page of text.
+void DrawDocumentGlyph(CDC& dc, const CRect& place) {
+    const COLORREF ink = GetSysColor(COLOR_WINDOWTEXT);
+    CRect page(place.left + 2, place.top + 1, place.right - 3, place.bottom - 1);
+    dc.FillSolidRect(&page, GetSysColor(COLOR_WINDOW));
+    dc.Draw3dRect(&page, ink, ink);
+    for (int y = page.top + 4; y < page.bottom - 2; y += 2)
+        dc.FillSolidRect(page.left + 2, y, page.Width() - 4, 1, GetSysColor(COLOR_3DSHADOW));
+}
+
+// The maximised document's icon and buttons on its frame's bar.
+void DrawMdiBarControls(const MdiBarControls& controls, CDC& dc) {
+    const WindowRecord* child = Find(controls.child);
+    if (!child)
+        return;
+    if (const HICON icon = child->smallIcon ? child->smallIcon : child->bigIcon)
+        DrawIcon(dc, icon, controls.icon);
+    else
+        DrawDocumentGlyph(dc, controls.icon);
+    const std::pair<CRect, UINT> buttons[] = {{controls.minimize, SC_MINIMIZE},
+                                              {controls.restore, SC_RESTORE},
+                                              {controls.close, SC_CLOSE}};
+    for (const auto& [rect, command] : buttons) {
+        CRect face = rect;
+        dc.DrawFrameControl(&face, DFC_BUTTON, DFCS_BUTTONPUSH);
+        DrawGlyph(dc, rect, command);
+    }
+}
+
 void DrawMenuBar(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& rect) {
     const MenuRecord* menu = m.menuBar ? FindMenu(w.menu) : nullptr;
     if (!menu)
@@ -114,8 +151,13 @@ void DrawMenuBar(const WindowRecord& w, CDC& dc, const FrameMetrics& m, CRect& r
     bool open = false;
     const MenuTracker* tracker = CurrentMenuTracker();
     const int hot = tracker ? tracker->BarHotItem(w.handle, &open) : -1;
-    PaintMenuBar(dc.GetSafeHdc(), *menu,
-                 CRect(rect.left, rect.top, rect.right, rect.top + m.menuBar), hot, open);
+    const CRect bar(rect.left, rect.top, rect.right, rect.top + m.menuBar);
+    const MdiBarControls controls = GetMdiBarControls(w);
+    if (controls.child)
+        dc.FillSolidRect(&bar, GetSysColor(COLOR_MENU));
+    PaintMenuBar(dc.GetSafeHdc(), *menu, controls.child ? MenuBarItemsInWindow(w) : bar, hot, open);
+    if (controls.child)
+        DrawMdiBarControls(controls, dc);
     rect.top += m.menuBar;
 }
 

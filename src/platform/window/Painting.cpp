@@ -122,11 +122,14 @@ void InvalidateClient(WindowRecord& w, const CRect& clientRect, bool erase) {
         return;
     w.update |= area;
     w.eraseOnPaint = w.eraseOnPaint || erase;
+    // The window paints the bounds of all that is invalid, over its children: each repaints
+    // what of it it covers, not only what of this area.
+    const CRect painted = w.update;
     for (HWND child : w.children) {
         WindowRecord* c = Find(child);
         if (!c || !(c->style & WS_VISIBLE))
             continue;
-        const CRect overlap = area & c->rect;
+        const CRect overlap = painted & c->rect;
         if (overlap.IsRectEmpty())
             continue;
         if (HasFrame(*c))

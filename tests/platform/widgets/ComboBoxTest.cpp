@@ -1,8 +1,10 @@
 #include "WidgetTestSupport.h"
 
 #include "platform/system/SysColors.h"
+#include "platform/testing/MenuResponder.h"
 #include "platform/widgets/ComboBox.h"
 #include "platform/widgets/Edit.h"
+#include "platform/window/Menu.h"
 
 using ::testing::ElementsAre;
 
@@ -152,6 +154,62 @@ TEST_F(ComboBoxTest, ArrowsWalkTheOpenListAndEnterOrEscapeCloseIt) {
     EXPECT_THAT(CommandsFrom(kComboId),
                 ElementsAre(CBN_SETFOCUS, CBN_DROPDOWN, CBN_SELCHANGE, CBN_SELCHANGE, CBN_SELENDOK,
                             CBN_CLOSEUP, CBN_DROPDOWN, CBN_SELENDCANCEL, CBN_CLOSEUP));
+}
+
+TEST_F(ComboBoxTest, AltArrowsAndF4OpenAndCloseTheListFromTheEditFieldTakingTheChoice) {
+    Make(CBS_DROPDOWN);
+    combo.SetFocus();
+    const auto altKey = [this](UINT key) {
+        ui.KeyDown(VK_MENU);
+        ui.PressKey(key);
+        ui.KeyUp(VK_MENU);
+    };
+    altKey(VK_DOWN);
+    EXPECT_TRUE(combo.GetDroppedState());
+    ui.PressKey(VK_DOWN);
+    ui.PressKey(VK_DOWN);
+    altKey(VK_UP);
+    EXPECT_FALSE(combo.GetDroppedState());
+    EXPECT_EQ(TextOf(combo), "Banana");
+    ui.PressKey(VK_F4);
+    EXPECT_TRUE(combo.GetDroppedState());
+    ui.PressKey(VK_F4);
+    EXPECT_FALSE(combo.GetDroppedState());
+    EXPECT_EQ(GetFocus(), combo.GetDlgItem(kEditChildId)->m_hWnd);
+    EXPECT_THAT(CommandsFrom(kComboId),
+                ElementsAre(CBN_SETFOCUS, CBN_DROPDOWN, CBN_SELCHANGE, CBN_SELCHANGE, CBN_SELENDOK,
+                            CBN_CLOSEUP, CBN_DROPDOWN, CBN_SELENDOK, CBN_CLOSEUP));
+}
+
+TEST_F(ComboBoxTest, ACharacterSentToADropDownIsTypedInItsField) {
+    Make(CBS_DROPDOWN);
+    combo.SetFocus();
+    combo.SendMessage(WM_CHAR, 'd');
+    combo.SendMessage(WM_CHAR, 'a');
+    EXPECT_EQ(TextOf(combo), "da");
+    EXPECT_EQ(combo.GetCurSel(), CB_ERR); // typing is not choosing
+}
+
+TEST_F(ComboBoxTest, AltAloneStillOpensTheFramesMenuBarButNotAfterAltDown) {
+    CMenu bar;
+    ASSERT_TRUE(bar.CreateMenu());
+    CMenu file;
+    ASSERT_TRUE(file.CreatePopupMenu());
+    file.AppendMenu(MF_STRING, 1, "&Open");
+    bar.AppendMenu(MF_POPUP, UINT_PTR(file.Detach()), "&File");
+    ASSERT_TRUE(SetMenu(parent.m_hWnd, bar.Detach()));
+    Make(CBS_DROPDOWNLIST);
+    combo.SetFocus();
+    MenuResponder menus;
+    ui.KeyDown(VK_MENU);
+    ui.PressKey(VK_DOWN);
+    ui.KeyUp(VK_MENU);
+    EXPECT_TRUE(combo.GetDroppedState());
+    EXPECT_EQ(menus.Count(), 0);
+    ui.PressKey(VK_ESCAPE);
+    ui.PressKey(VK_MENU);
+    EXPECT_EQ(menus.Count(), 1);
+    EXPECT_TRUE(menus.Last().menuBar);
 }
 
 TEST_F(ComboBoxTest, ADropDownTypesInItsEditChildAndTheListClosesWhenFocusLeaves) {

@@ -2,6 +2,7 @@
 
 #include "platform/system/SysColors.h"
 #include "platform/system/SystemMetrics.h"
+#include "platform/testing/MenuResponder.h"
 #include "platform/testing/UiDriver.h"
 #include "platform/window/MdiFrame.h"
 #include "platform/window/WindowIcons.h"
@@ -209,6 +210,24 @@ TEST_F(MdiTest, ADocumentShowsTheIconItWasGivenInItsCaption) {
     EXPECT_EQ(driver.Pixel(frame.m_hWndMDIClient, inIcon), RGB(255, 0, 0));
 }
 
+TEST_F(MdiTest, CtrlF6WalksTheDocumentsAndCtrlF4ClosesTheActiveOne) {
+    DocumentWnd* first = Open("First");
+    DocumentWnd* second = Open("Second");
+    DocumentWnd* third = Open("Third");
+    ASSERT_TRUE(first && second && third);
+    ASSERT_EQ(GetFocus(), third->m_hWnd);
+    driver.PressKey(VK_F6, MK_CONTROL);
+    EXPECT_EQ(frame.MDIGetActive(), second);
+    driver.PressKey(VK_F6, MK_CONTROL | MK_SHIFT);
+    EXPECT_EQ(frame.MDIGetActive(), third);
+    driver.PressKey(VK_F6); // without Ctrl, the document's own key
+    EXPECT_EQ(frame.MDIGetActive(), third);
+    log.clear();
+    driver.PressKey(VK_F4, MK_CONTROL);
+    EXPECT_THAT(Only(log, {"deleted"}), ::testing::ElementsAre("Third:deleted"));
+    EXPECT_NE(frame.MDIGetActive(), nullptr);
+}
+
 TEST_F(MdiTest, ClosingADocumentActivatesTheNextAndDeletesItsObject) {
     DocumentWnd* first = Open("First");
     DocumentWnd* second = Open("Second");
@@ -237,6 +256,164 @@ TEST_F(MdiTest, ClosingADocumentActivatesTheNextAndDeletesItsObject) {
     EXPECT_FALSE(maximized);
     EXPECT_THAT(Only(log, {"deleted"}),
                 ::testing::ElementsAre("First:deleted", "Third:deleted", "Second:deleted"));
+}
+
+// A frame with a menu bar, where a maximised document puts its controls.
+class MdiMenuBarTest : public MdiTest {
+protected:
+    static constexpr UINT kOpen = 501;
+    void SetUp() override {
+        MdiTest::SetUp();
+        CMenu bar, file;
+        ASSERT_TRUE(bar.CreateMenu() && file.CreatePopupMenu());
+        file.AppendMenu(MF_STRING, kOpen, "&Open");
+        bar.AppendMenu(MF_POPUP, UINT_PTR(file.Detach()), "&File");
+        bar.AppendMenu(MF_STRING, kOpen + 1, "&Window");
+        ASSERT_TRUE(frame.SetMenu(&bar));
+        bar.Detach();
+        driver.Pump();
+    }
+    CRect FirstBarItem() {
+        RECT r;
+        GetMenuItemRect(frame.m_hWnd, ::GetMenu(frame.m_hWnd), 0, &r);
+        return CRect(r);
+    }
+    std::string FrameTitle() {
+        CString title;
+        frame.GetWindowText(title);
+        return title.GetString();
+    }
+    // The centres of the bar's buttons, counted from its right end (0: close, 1: restore,
+    // 2: minimise), in the frame's client coordinates: the bar lies just above the client.
+    POINT BarButton(int fromRight) {
+        CRect client;
+        frame.GetClientRect(&client);
+        const int height = GetSystemMetrics(SM_CYMENU) - 4;
+        const int width = height + 2;
+        const int centre = client.right - 2 - width / 2 - fromRight * width - (fromRight ? 2 : 0);
+        return POINT{centre, -GetSystemMetrics(SM_CYMENU) / 2};
+    }
+    POINT BarIcon() {
+        return POINT{2 + GetSystemMetrics(SM_CXSMICON) / 2, -GetSystemMetrics(SM_CYMENU) / 2};
+    }
+};
+
+TEST_F(MdiMenuBarTest, AMaximisedDocumentShowsItsControlsOnTheBarAndItsNameInTheCaption) {
+    DocumentWnd* first = Open("Inlet");
+    DocumentWnd* second = Open("Outlet");
+    ASSERT_TRUE(first && second);
+    const CRect itemBefore = FirstBarItem();
+    const CRect placeBefore = RectInClient(second);
+    frame.MDIMaximize(second);
+    EXPECT_EQ(FrameTitle(), "Frame - [Outlet]");
+    EXPECT_GE(FirstBarItem().left, itemBefore.left + GetSystemMetrics(SM_CXSMICON))
+        << "the items make room for the document's icon";
+
+    // The bar still opens its menus by mouse.
+    MenuResponder menus;
+    menus.Dismiss();
+    CPoint file = FirstBarItem().CenterPoint();
+    frame.ScreenToClient(&file);
+    driver.Click(frame.m_hWnd, file);
+    EXPECT_EQ(menus.Count(), 1);
+
+    // The titles follow their windows while the document stays maximised.
+    second->SetWindowText("Outlet apron");
+    frame.SetWindowText("Culvert");
+    EXPECT_EQ(FrameTitle(), "Culvert - [Outlet apron]");
+    frame.MDIActivate(first);
+    EXPECT_EQ(FrameTitle(), "Culvert - [Inlet]");
+    frame.MDIActivate(second);
+
+    driver.Click(frame.m_hWnd, BarButton(1)); // restore
+    BOOL maximized = TRUE;
+    EXPECT_EQ(frame.MDIGetActive(&maximized), second);
+    EXPECT_FALSE(maximized);
+    EXPECT_EQ(RectInClient(second), placeBefore);
+    EXPECT_EQ(FrameTitle(), "Culvert");
+    EXPECT_EQ(FirstBarItem(), itemBefore);
+    driver.Click(frame.m_hWnd, BarButton(1)); // no controls now: nothing there to press
+    EXPECT_FALSE(second->GetStyle() & WS_MAXIMIZE);
+}
+
+TEST_F(MdiMenuBarTest, MinimisedDocumentsLineUpAlongTheBottomAndComeBackFromTheirButtons) {
+    DocumentWnd* first = Open("Inlet");
+    DocumentWnd* second = Open("Outlet");
+    ASSERT_TRUE(first && second);
+    const CRect secondPlace = RectInClient(second);
+    frame.MDIMaximize(second);
+    driver.Click(frame.m_hWnd, BarButton(2)); // minimise
+    EXPECT_TRUE(second->GetStyle() & WS_MINIMIZE);
+    EXPECT_FALSE(second->GetStyle() & WS_MAXIMIZE);
+    BOOL maximized = TRUE;
+    EXPECT_EQ(frame.MDIGetActive(&maximized), first) << "the next document takes over";
+    EXPECT_FALSE(maximized);
+    EXPECT_EQ(FrameTitle(), "Frame");
+    CRect client;
+    ::GetClientRect(frame.m_hWndMDIClient, &client);
+    const CRect icon = RectInClient(second);
+    EXPECT_EQ(icon.left, 0);
+    EXPECT_EQ(icon.bottom, client.bottom);
+    EXPECT_LT(icon.Height(), 2 * GetSystemMetrics(SM_CYCAPTION));
+
+    // A second one stands beside it; cascading leaves both where they are.
+    const CRect firstPlace = RectInClient(first);
+    first->SendMessage(WM_SYSCOMMAND, SC_MINIMIZE);
+    EXPECT_EQ(RectInClient(first).TopLeft(), CPoint(icon.right, icon.top));
+    frame.MDICascade();
+    EXPECT_EQ(RectInClient(second), icon);
+
+    // The first button of a minimised document's caption restores it, active, and the other
+    // icon closes up.
+    CRect outer;
+    second->GetWindowRect(&outer);
+    CPoint restore(-1, -1);
+    for (int x = outer.left; x < outer.right && restore.x < 0; ++x)
+        if (second->SendMessage(WM_NCHITTEST, 0, MAKELPARAM(x, outer.CenterPoint().y)) ==
+            HTMINBUTTON)
+            restore = CPoint(x + 2, outer.CenterPoint().y);
+    ASSERT_GE(restore.x, 0);
+    ::ScreenToClient(frame.m_hWndMDIClient, &restore);
+    driver.Click(frame.m_hWndMDIClient, restore);
+    EXPECT_FALSE(second->GetStyle() & WS_MINIMIZE);
+    EXPECT_EQ(RectInClient(second), secondPlace);
+    EXPECT_EQ(frame.MDIGetActive(), second);
+    EXPECT_EQ(RectInClient(first).TopLeft(), icon.TopLeft());
+    frame.MDIRestore(first);
+    EXPECT_EQ(RectInClient(first), firstPlace);
+}
+
+TEST_F(MdiMenuBarTest, TheCloseButtonClosesTheMaximisedDocumentAndTheNextTakesItsPlace) {
+    DocumentWnd* first = Open("Inlet");
+    DocumentWnd* second = Open("Outlet");
+    ASSERT_TRUE(first && second);
+    frame.MDIMaximize(second);
+    log.clear();
+    driver.Click(frame.m_hWnd, BarButton(0));
+    EXPECT_THAT(Only(log, {"deleted"}), ::testing::ElementsAre("Outlet:deleted"));
+    BOOL maximized = FALSE;
+    EXPECT_EQ(frame.MDIGetActive(&maximized), first);
+    EXPECT_TRUE(maximized);
+    EXPECT_EQ(FrameTitle(), "Frame - [Inlet]");
+
+    driver.Click(frame.m_hWnd, BarButton(0));
+    EXPECT_EQ(frame.MDIGetActive(), nullptr);
+    EXPECT_EQ(FrameTitle(), "Frame");
+}
+
+TEST_F(MdiMenuBarTest, TheDocumentsIconOpensItsSystemMenu) {
+    DocumentWnd* doc = Open("Inlet");
+    ASSERT_NE(doc, nullptr);
+    frame.MDIMaximize(doc);
+    MenuResponder menus;
+    menus.Dismiss();
+    menus.Choose(SC_RESTORE);
+    driver.Click(frame.m_hWnd, BarIcon());
+    EXPECT_TRUE(doc->GetStyle() & WS_MAXIMIZE) << "dismissed";
+    driver.Click(frame.m_hWnd, BarIcon());
+    EXPECT_FALSE(doc->GetStyle() & WS_MAXIMIZE);
+    ASSERT_EQ(menus.Count(), 2);
+    EXPECT_NE(MenuResponder::FindItem(menus.Last().items, "Close"), nullptr);
 }
 
 } // namespace

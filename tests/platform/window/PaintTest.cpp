@@ -167,6 +167,20 @@ TEST_F(PaintTest, ScrollingOverAChildOrDiagonallyRepaintsTheWholeArea) {
     EXPECT_EQ(ui.Pixel(frame.m_hWnd, CPoint(60, 35)), RGB(255, 0, 0));
 }
 
+TEST_F(PaintTest, AWindowMovedFromUnderASiblingLeavesTheSiblingWhole) {
+    // The parent repaints the bounds of the old and the new place together, which reach into
+    // the sibling on top beyond where the two overlapped: the sibling repaints all of that.
+    LoggingWnd under(log, "under");
+    ASSERT_TRUE(under.CreateChild(&frame, CRect(10, 10, 60, 60), 2));
+    under.paintColour = RGB(0, 128, 0);
+    under.SetWindowPos(&CWnd::wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    PumpMessages();
+    under.MoveWindow(10, 150, 50, 40);
+    EXPECT_EQ(ui.Pixel(frame.m_hWnd, CPoint(55, 100)), RGB(255, 0, 0));
+    EXPECT_EQ(ui.Pixel(frame.m_hWnd, CPoint(30, 30)), RGB(0, 0, 255));
+    EXPECT_EQ(ui.Pixel(frame.m_hWnd, CPoint(30, 170)), RGB(0, 128, 0));
+}
+
 TEST_F(PaintTest, HidingAChildRepaintsWhatItCovered) {
     child.ShowWindow(SW_HIDE);
     EXPECT_EQ(ui.Pixel(frame.m_hWnd, CPoint(60, 50)), RGB(0, 0, 255));
