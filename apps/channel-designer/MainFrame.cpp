@@ -40,7 +40,7 @@ void RegisterMenu() {
                           {"&Window",
                            {{"&Cascade", MainFrame::kCascade},
                             {"&Tile", MainFrame::kTile},
-                            {"&Next Window", MainFrame::kNextWindow}}},
+                            {"&Next Window\tCtrl+F6", MainFrame::kNextWindow}}},
                           {"&Help",
                            {{"&Contents", MainFrame::kHelpContents},
                             {"&Analysis", MainFrame::kHelpAnalysis},

@@ -430,6 +430,11 @@ TEST_F(ScriptedRun, EveryMenuOfTheBarOpensAndItsCommandsAct) {
     EXPECT_FALSE(overlap.IntersectRect(&profile, &rating));
     SaveScreen(*m_frame, "14-tiled");
 
+    // Control+F6, as the menu says, goes on to the next window.
+    const CMDIChildWnd* before = m_frame->MDIGetActive();
+    m_ui.PressKey(VK_F6, MK_CONTROL);
+    EXPECT_NE(m_frame->MDIGetActive(), before);
+
     MessageBoxResponder boxes;
     ChooseFromMenuBar(3, "About Channel Designer...");
     ASSERT_EQ(boxes.Count(), 1);
