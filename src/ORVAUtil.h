@@ -88,6 +88,8 @@
 #include "controls/EditORVAInt.h"
 
 // Plot.
+#include "plot/DlgAxisTitles.h"
+#include "plot/DlgPlotViewValues.h"
 #include "plot/Plot.h"
 #include "plot/PlotApi.h"
 #include "plot/PlotBar.h"
@@ -97,12 +99,14 @@
 #include "plot/PlotFileValues.h"
 #include "plot/PlotLegend.h"
 #include "plot/PlotList.h"
+#include "plot/PlotMenuResource.h"
 #include "plot/PlotRealtime.h"
 #include "plot/PlotScatter.h"
 #include "plot/PlotWindow.h"
 #include "plot/PlotWindowTop.h"
 #include "plot/PlotWindows.h"
 #include "plot/RightMenu.h"
+#include "plot/RightMenuItems.h"
 
 // Support.
 #include "support/DataReader.h"

@@ -5,8 +5,9 @@
 // and gives typed access to the chart's numbered properties. Most virtual operations are hooks
 // for the plots an application derives.
 //
-// Sections: construction; hooks (virtual); identity; titles and curves; ranges; output;
-// typed properties (PlotProperties.cpp); chart files (PlotChartFile.cpp).
+// Sections: construction; hooks (virtual); events and menu commands (PlotInteraction.cpp,
+// PlotCommands.cpp); identity; titles and curves; ranges; output; typed properties
+// (PlotProperties.cpp); chart files (PlotChartFile.cpp).
 
 #include "platform/base/Export.h"
 #include "platform/base/Rect.h"
@@ -79,6 +80,25 @@ public:
 
     // A chart notification turned into the hooks: 1 if handled, else 0.
     int HandlePlotEvent(unsigned short code);
+    // Tells the application's main window which plot's menu is up (null: none), by
+    // WM_PLOT_SETMENUPLOT.
+    static void SetActiveMenuPlot(EPlot* plot);
+
+    // The commands of the fixed menu, which the application routes to the plot it was told of;
+    // each ends by telling the main window that no plot's menu is up.
+    void HandlePlotRefresh();
+    void HandlePlotDisplayOpts();
+    void HandlePlotSetAsDisplayDefault();
+    void HandlePlotMaximize();
+    void HandlePlotExportPrint();
+    void HandlePlotFrame();
+    void HandlePlotAxisTitles();
+    void HandlePlotLegendNone();
+    void HandlePlotLegendTop();
+    void HandlePlotLegendBottom();
+    void HandlePlotLegendLeft();
+    void HandlePlotLegendRight();
+    void HandlePlotViewValues();
 
     // Identity.
     int GetId() const { return m_id; }
@@ -121,6 +141,8 @@ public:
     int CopyMetaToClipboard();
     HMETAFILE GetMetafile();
     int Print();
+    // Edits the axis titles in the modal "Axis Titles" dialog; OK writes both to the chart.
+    void EditAxisTitles();
     bool PixelToGraph(int& axis, int& x, int& y, double& gx, double& gy, bool toPixel, bool b2,
                       bool b3);
 
@@ -176,4 +198,5 @@ private:
     void SetRange(int modeProperty, int minProperty, int maxProperty, double min, double max,
                   AxisRangeType type);
     int NumberOfCurves();
+    void HandlePlotLegend(unsigned char show, int location);
 };

@@ -26,17 +26,25 @@ struct Gesture {
 };
 Gesture g_gesture;
 
+constexpr int kDataChanging = 3040; // 0 while a drag writes the data
+constexpr int kRubberLineStarted = 3208;
 constexpr double kDragReach = 5.0; // widths of the axis range a dragged point may go beyond
 constexpr int kRubberLineTypes[] = {38, 45};
 constexpr int kRubberLineColour = 0;
 
-// The last mouse position in graph coordinates; `where` keeps its value if that fails.
-void ReadPosition(HWND chart, Pt2<double>& where) {
+// The last mouse position, in the chart's pixels.
+POINT ReadMousePixel(HWND chart) {
     int mouse[2] = {};
     if (ChartGetArray(chart, MousePosition, nullptr) >= int(sizeof mouse))
         ChartGetArray(chart, MousePosition, mouse);
+    return {mouse[0], mouse[1]};
+}
+
+// The last mouse position in graph coordinates; `where` keeps its value if that fails.
+void ReadPosition(HWND chart, Pt2<double>& where) {
+    POINT mouse = ReadMousePixel(chart);
     int axis = 0;
-    ChartPixelToGraph(chart, &axis, &mouse[0], &mouse[1], &where.x, &where.y, false, false, false);
+    ChartPixelToGraph(chart, &axis, &mouse.x, &mouse.y, &where.x, &where.y, false, false, false);
 }
 
 tagHOTSPOTDATA ReadHotSpot(HWND chart) {
@@ -46,10 +54,13 @@ tagHOTSPOTDATA ReadHotSpot(HWND chart) {
     return spot;
 }
 
+// Keeps a dragged value within five widths of the axis range on either side. An axis whose
+// range the chart does not give sets no limit.
 double Clamp(double value, HWND chart, int minProperty, int maxProperty) {
     double low = 0, high = 0;
-    ChartGetElement(chart, minProperty, 0, &low);
-    ChartGetElement(chart, maxProperty, 0, &high);
+    if (!ChartGetElement(chart, minProperty, 0, &low) ||
+        !ChartGetElement(chart, maxProperty, 0, &high))
+        return value;
     const double reach = (high - low) * kDragReach;
     return std::clamp(value, std::min(low - reach, high + reach),
                       std::max(low - reach, high + reach));
@@ -84,7 +95,7 @@ int EPlot::HandlePlotEvent(unsigned short code) {
             if (CheckDragPoint(g_gesture.curve, g_gesture.point, g_gesture.start,
                                &g_gesture.current, &moveX, &moveY) == 0)
                 return 1;
-            ChartSetInt(m_hwnd, 3040, 0);
+            ChartSetInt(m_hwnd, kDataChanging, 0);
             if (moveX)
                 ChartSetCell(m_hwnd, XData, g_gesture.curve, g_gesture.point, &g_gesture.current.x);
             if (moveY)
@@ -111,9 +122,14 @@ int EPlot::HandlePlotEvent(unsigned short code) {
             return 1; // swallowed while a rubber line runs
         if (!m_menu.AllowRightMenu())
             return 0;
-        // The application shows the menu resource for the plot it is told of.
-        if (HWND main = SafeHwnd(AfxGetMainWnd()))
-            SendMessage(main, WM_PLOT_SETMENUPLOT, 0, reinterpret_cast<LPARAM>(this));
+        {
+            const HWND chart = m_hwnd;
+            const POINT where = ReadMousePixel(chart);
+            SetActiveMenuPlot(this);
+            // The main window's handler may have closed the plot, and with it its chart.
+            if (IsWindow(chart))
+                m_menu.DoMenu(this, where);
+        }
         return 1;
     case PLOTEVT_DBLCLICK:
         OnDoubleClick(ReadHotSpot(m_hwnd));
@@ -130,7 +146,10 @@ int EPlot::HandlePlotEvent(unsigned short code) {
 }
 
 void EPlot::OnDoubleClick(tagHOTSPOTDATA) {
-    // A double click on an axis title edits the titles once the plot dialogs exist.
+    // The record handed in is not trusted: the chart is asked again.
+    const tagHOTSPOTDATA spot = ReadHotSpot(m_hwnd);
+    if (spot.m_kind == HOTSPOT_AXISLABEL1 || spot.m_kind == HOTSPOT_AXISLABEL2)
+        EditAxisTitles();
 }
 
 int EPlot::DrawXORLine(int state, Pt2<double>* start, Pt2<double>* end, unsigned char stop) {
@@ -144,7 +163,7 @@ int EPlot::DrawXORLine(int state, Pt2<double>* start, Pt2<double>* end, unsigned
         endLine();
     } else if (state == 0) {
         ChartSetInt(m_hwnd, RubberLine, 1);
-        ChartSetInt(m_hwnd, 3208, 1);
+        ChartSetInt(m_hwnd, kRubberLineStarted, 1);
         const double xs[] = {start->x, end->x};
         const double ys[] = {start->y, end->y};
         ChartSetArray(m_hwnd, RubberX, xs, 2);

@@ -9,6 +9,7 @@
 #include "plot/PlotApi.h"
 #include "plot/PlotData.h"
 #include "plot/PlotDate.h"
+#include "plot/RightMenuItems.h"
 
 #include <algorithm>
 
@@ -17,9 +18,6 @@ using namespace chartprop;
 namespace {
 
 constexpr int kAllMenuItems = ~0;
-constexpr int kMenuAxisTitles = 0x4;
-constexpr int kMenuLegend = 0x8;
-constexpr int kMenuShowValues = 0x100;
 constexpr COLORREF kSecondBarColour = 0x010000;
 
 constexpr int kScatterOff[] = {3279, 3274, 3287, 3288, 3281, 3272, 3254, 3022, 3648};
@@ -42,7 +40,8 @@ int EPlotBar::SetPlotDefaults() {
     ChartSetInt(m_hwnd, DataHotSpots, 0);
     const int colour = int(kSecondBarColour);
     ChartSetElement(m_hwnd, CurveColours, 1, &colour);
-    pmSetUpBasicMenus(m_menu, kAllMenuItems & ~(kMenuAxisTitles | kMenuLegend | kMenuShowValues));
+    pmSetUpBasicMenus(m_menu,
+                      kAllMenuItems & ~(PM_MENU_AXISTITLES | PM_MENU_LEGEND | PM_MENU_SHOWVALUES));
     return 1;
 }
 
@@ -75,7 +74,7 @@ int EPlotRealtime::SetPlotDefaults() {
     ChartSetArray(m_hwnd, 3656, nullptr, 0);
     ChartSetArray(m_hwnd, 3268, nullptr, 0);
     m_xDateTime = 0;
-    pmSetUpBasicMenus(m_menu, kAllMenuItems & ~(kMenuAxisTitles | kMenuLegend));
+    pmSetUpBasicMenus(m_menu, kAllMenuItems & ~(PM_MENU_AXISTITLES | PM_MENU_LEGEND));
     return 1;
 }
 

@@ -22,25 +22,6 @@ constexpr int kCanvasControl = 21;
 constexpr COLORREF kCurveColour = RGB(200, 0, 0);
 constexpr int kTitleBuffer = 1024;
 
-// A plot of one curve of points (0, 0) .. (10, 100) on fixed axes.
-void FillLine(EPlot& plot) {
-    EPlotData data;
-    data.Initialize(1, 11, 0);
-    for (int i = 0; i <= 10; ++i)
-        data.SetDataForPoint(0, i, i, 10.0 * i);
-    data.SetSubsetColor(0, MUcolor(200, 0, 0));
-    data.UpdatePlotFromData(plot.GetHwnd());
-    plot.SetXRange(0, 10, EPlot::RangeBothGiven);
-    plot.SetYRange(0, 100, EPlot::RangeBothGiven);
-    plot.RedrawPlot();
-}
-
-POINT PixelOf(EPlot& plot, double gx, double gy) {
-    int axis = 0, x = 0, y = 0;
-    EXPECT_TRUE(plot.PixelToGraph(axis, x, y, gx, gy, true, false, false));
-    return {x, y};
-}
-
 class PlotObjectTest : public PlotFixture {
 protected:
     RecordingPlot* NewPlot() {

@@ -1,12 +1,14 @@
 #pragma once
 
-// What the plot tests share: an application main window that plots report to, and a plot
-// that records the hooks the library calls on it.
+// What the plot tests share: an application main window that plots report to and that routes
+// the plot menu's commands, and a plot that records the hooks the library calls on it.
 
 #include "plot/Plot.h"
 #include "plot/PlotApi.h"
+#include "plot/PlotData.h"
 #include "plot/PlotEvents.h"
 #include "plot/PlotList.h"
+#include "plot/PlotMenuResource.h"
 #include "plot/PlotWindows.h"
 
 #include "platform/testing/NotificationRecorder.h"
@@ -56,6 +58,49 @@ private:
     static inline int s_alive = 0;
 };
 
+// A plot of one curve of points (0, 0) .. (10, 100) on fixed axes.
+inline void FillLine(EPlot& plot) {
+    EPlotData data;
+    data.Initialize(1, 11, 0);
+    for (int i = 0; i <= 10; ++i)
+        data.SetDataForPoint(0, i, i, 10.0 * i);
+    data.SetSubsetColor(0, MUcolor(200, 0, 0));
+    data.UpdatePlotFromData(plot.GetHwnd());
+    plot.SetXRange(0, 10, EPlot::RangeBothGiven);
+    plot.SetYRange(0, 100, EPlot::RangeBothGiven);
+    plot.RedrawPlot();
+}
+
+// Where a point of graph coordinates lies in the plot's chart.
+inline POINT PixelOf(EPlot& plot, double gx, double gy) {
+    int axis = 0, x = 0, y = 0;
+    EXPECT_TRUE(plot.PixelToGraph(axis, x, y, gx, gy, true, false, false));
+    return {x, y};
+}
+
+// The application's multiple-document frame: it keeps the plot whose menu is up, as
+// WM_PLOT_SETMENUPLOT tells it, and hands the plot menu's commands to that plot.
+class PlotApplicationFrame : public CMDIFrameWnd {
+public:
+    EPlot* menuPlot = nullptr;
+    bool closePlotOnMenu = false; // as an application may, told of the plot
+
+protected:
+    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override {
+        if (message == WM_PLOT_SETMENUPLOT) {
+            menuPlot = reinterpret_cast<EPlot*>(lParam);
+            if (menuPlot && closePlotOnMenu)
+                g_plotList.DeletePlot(menuPlot->GetHwnd());
+            return TRUE;
+        }
+        return CMDIFrameWnd::OnWndMsg(message, wParam, lParam, result);
+    }
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        return pmRunPlotMenuCommand(menuPlot, LOWORD(wParam)) ||
+               CMDIFrameWnd::OnCommand(wParam, lParam);
+    }
+};
+
 class PlotFixture : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -64,6 +109,7 @@ protected:
         AfxSetMainWnd(&mainWindow);
         recorder = std::make_unique<NotificationRecorder>(mainWindow.m_hWnd);
         recorder->Watch(WM_PLOT_CLOSED);
+        recorder->Watch(WM_PLOT_SETMENUPLOT);
         pmPlotDefaults(0);
     }
     void TearDown() override {
@@ -83,7 +129,7 @@ protected:
         return closed;
     }
 
-    CMDIFrameWnd mainWindow; // the application's multiple-document frame
+    PlotApplicationFrame mainWindow;
     std::unique_ptr<NotificationRecorder> recorder;
     UiDriver driver;
 };
