@@ -12,6 +12,8 @@
 #include "platform/window/MessageBox.h"
 #include "platform/window/WindowApi.h"
 #include "plot/PlotApi.h"
+#include "plot/PlotEvents.h"
+#include "plot/PlotMenuResource.h"
 #include "support/HelpDocument.h"
 
 #include <algorithm>
@@ -55,6 +57,7 @@ MainFrame::MainFrame(std::string applicationFolder) : m_folder(std::move(applica
 
 bool MainFrame::CreateFrame(const CRect& place) {
     RegisterMenu();
+    RegisterMenuResource(kPlotMenuId, pmPlotMenuTemplate());
     if (!Create(nullptr, kTitle, WS_OVERLAPPEDWINDOW | WS_VISIBLE, place, nullptr,
                 MAKEINTRESOURCE(kMenuId)))
         return false;
@@ -156,7 +159,17 @@ void MainFrame::RunFlowCalculator() {
     reach->RunFlowCalculator(reach->FocusSection());
 }
 
+BOOL MainFrame::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
+    if (message == WM_PLOT_SETMENUPLOT) {
+        m_menuPlot = reinterpret_cast<EPlot*>(lParam);
+        return TRUE;
+    }
+    return CMDIFrameWnd::OnWndMsg(message, wParam, lParam, result);
+}
+
 BOOL MainFrame::OnCommand(WPARAM wParam, LPARAM lParam) {
+    if (pmRunPlotMenuCommand(m_menuPlot, LOWORD(wParam)))
+        return TRUE;
     ReachWindow* reach = nullptr;
     switch (LOWORD(wParam)) {
     case kOpen: {

@@ -49,6 +49,8 @@ public:
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    // Learns the plot whose menu is up (WM_PLOT_SETMENUPLOT), which its commands go to.
+    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
 private:
     void ShowLongProfile(ReachWindow& window);
@@ -57,4 +59,5 @@ private:
 
     std::string m_folder;
     std::vector<HWND> m_reachWindows; // by handle: a window may have gone since
+    EPlot* m_menuPlot = nullptr;      // while its menu is up; the plot clears it after
 };

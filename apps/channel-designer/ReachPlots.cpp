@@ -31,7 +31,9 @@ MUcolor FromColorref(unsigned long colour) {
 } // namespace
 
 ReachPlot::ReachPlot(ReachDocument& document, const char* title, CRect place)
-    : EPlot(kLineChart, title, &place, kDocumentWindow, 0), m_document(&document) {}
+    : EPlot(kLineChart, title, &place, kDocumentWindow, 0), m_document(&document) {
+    Menu().SetMenuID(kPlotMenuId);
+}
 
 void ReachPlot::UpdatePlot(const std::bitset<36>& which, void* data) {
     if (which.test(kReachChangedBit) && (data == m_document || !data) && GetHwnd())

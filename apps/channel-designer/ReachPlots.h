@@ -8,6 +8,10 @@
 
 #include "platform/base/Rect.h"
 
+// The plot menu's resource, which a right click on a plot shows; the frame registers it and
+// hands its commands to the plot whose menu is up.
+constexpr UINT kPlotMenuId = 4300;
+
 class ReachPlot : public EPlot {
 public:
     ReachPlot(ReachDocument& document, const char* title, CRect place);

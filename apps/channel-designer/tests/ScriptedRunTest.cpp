@@ -15,11 +15,15 @@
 #include "cells/GridCellCheckbox.h"
 #include "cells/GridCellFltXYCrv.h"
 #include "platform/testing/MessageBoxResponder.h"
+#include "plot/PlotApi.h"
 #include "plot/PlotList.h"
+#include "plot/PlotMenuResource.h"
 #include "support/TempFiles.h"
 
+#include <algorithm>
 #include <cmath>
 #include <fstream>
+#include <functional>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -439,6 +443,61 @@ TEST_F(ScriptedRun, EveryMenuOfTheBarOpensAndItsCommandsAct) {
     ChooseFromMenuBar(3, "About Channel Designer...");
     ASSERT_EQ(boxes.Count(), 1);
     EXPECT_NE(boxes.LastText().find("Manning's equation"), std::string::npos);
+}
+
+TEST_F(ScriptedRun, ThePlotMenuOpensTheValuesAndTheChartsOwnDialogs) {
+    m_reach = OpenThroughDialog("mill-creek");
+    ASSERT_TRUE(m_reach);
+    EPlot* profile = m_reach->Document().ProfilePlot();
+    const HWND chart = profile->GetHwnd();
+    CRect client;
+    ::GetClientRect(chart, &client);
+    const CPoint inside(client.Width() * 3 / 4, client.Height() / 4);
+
+    MenuResponder menus;
+    menus.Interact([&](const ShownPopupMenu&) {
+        SaveScreen(*m_frame, "15-plot-menu");
+        EndMenu();
+    });
+    m_ui.RightClick(chart, inside);
+    ASSERT_EQ(menus.Count(), 1);
+    std::vector<UINT> commands;
+    std::function<void(const std::vector<ShownMenuItem>&)> collect =
+        [&](const std::vector<ShownMenuItem>& items) {
+            for (const ShownMenuItem& item : items) {
+                commands.push_back(item.id);
+                collect(item.subItems);
+            }
+        };
+    collect(menus.Last().items);
+    for (UINT command :
+         {ID_PLOT_VIEW_VALUES, ID_PLOT_DISPLAY_OPTIONS, ID_PLOT_EXPORT_PRINT, ID_PLOT_LEGEND_TOP})
+        EXPECT_NE(std::find(commands.begin(), commands.end(), command), commands.end()) << command;
+
+    // The values dialog, and the chart's options and export dialogs, each from the menu.
+    ModalResponder dialogs;
+    const struct {
+        UINT command;
+        const char* screen;
+        int button;
+    } steps[] = {{ID_PLOT_VIEW_VALUES, "16-plot-values", IDOK},
+                 {ID_PLOT_DISPLAY_OPTIONS, "17-plot-options", IDCANCEL},
+                 {ID_PLOT_EXPORT_PRINT, "18-plot-export", IDCANCEL}};
+    for (const auto& step : steps) {
+        dialogs.Next()
+            .Run([&](CDialog& dialog, UiDriver&) { SaveScreen(dialog, step.screen); })
+            .Press(step.button);
+        menus.Choose(step.command);
+        m_ui.RightClick(chart, inside);
+    }
+    ASSERT_EQ(dialogs.Count(), 3);
+    for (const ShownDialog& shown : dialogs.Shown())
+        EXPECT_TRUE(shown.problems.empty()) << shown.title;
+
+    // The legend moves to the top of the chart.
+    menus.Choose(ID_PLOT_LEGEND_TOP);
+    m_ui.RightClick(chart, inside);
+    EXPECT_EQ(pmGetLegendLocation(chart), 0);
 }
 
 // The temporary directories of runs that died are cleaned at start; the live run's stays.
