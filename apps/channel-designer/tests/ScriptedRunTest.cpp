@@ -474,7 +474,7 @@ TEST_F(ScriptedRun, ThePlotMenuOpensTheValuesAndTheChartsOwnDialogs) {
          {ID_PLOT_VIEW_VALUES, ID_PLOT_DISPLAY_OPTIONS, ID_PLOT_EXPORT_PRINT, ID_PLOT_LEGEND_TOP})
         EXPECT_NE(std::find(commands.begin(), commands.end(), command), commands.end()) << command;
 
-    // The values dialog, and the chart's options and export dialogs, each from the menu.
+    // The values dialog, and the chart's options, export and maximised view, each from the menu.
     ModalResponder dialogs;
     const struct {
         UINT command;
@@ -482,7 +482,8 @@ TEST_F(ScriptedRun, ThePlotMenuOpensTheValuesAndTheChartsOwnDialogs) {
         int button;
     } steps[] = {{ID_PLOT_VIEW_VALUES, "16-plot-values", IDOK},
                  {ID_PLOT_DISPLAY_OPTIONS, "17-plot-options", IDCANCEL},
-                 {ID_PLOT_EXPORT_PRINT, "18-plot-export", IDCANCEL}};
+                 {ID_PLOT_EXPORT_PRINT, "18-plot-export", IDCANCEL},
+                 {ID_PLOT_MAXIMIZE, "19-plot-maximised", IDCANCEL}};
     for (const auto& step : steps) {
         dialogs.Next()
             .Run([&](CDialog& dialog, UiDriver&) { SaveScreen(dialog, step.screen); })
@@ -490,7 +491,7 @@ TEST_F(ScriptedRun, ThePlotMenuOpensTheValuesAndTheChartsOwnDialogs) {
         menus.Choose(step.command);
         m_ui.RightClick(chart, inside);
     }
-    ASSERT_EQ(dialogs.Count(), 3);
+    ASSERT_EQ(dialogs.Count(), 4);
     for (const ShownDialog& shown : dialogs.Shown())
         EXPECT_TRUE(shown.problems.empty()) << shown.title;
 
