@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Drives Channel Designer on a virtual X display with real X events, along its main path: opens
-# a reach from the File menu, edits an invert in the sheet with the mouse and
-# the keys and sees the long profile follow, opens the flow calculator from the Reach menu and
-# types a depth, then closes it. Saves a screenshot after each step into the folder given, and
+# a reach from the File menu, edits an invert in the sheet with the mouse and the keys and sees
+# the long profile follow, opens the plot's menu with a right click, opens the flow calculator
+# from the Reach menu and types a depth, then closes it. Saves a screenshot after each step into the folder given, and
 # checks what it can.
 #
 #   scripts/xvfb/channel-designer.sh <screenshot folder> [channel-designer binary]
@@ -61,26 +61,34 @@ changed=$(pixels_changed 3-reach-opened 4-invert-edited 490x390+80+340)
 verdict "$([[ $changed -gt 50 ]] && echo 1 || echo 0)" \
     "the long profile redrew after the edit ($changed pixels changed)"
 
+# A right click on the long profile shows the plot's menu; Escape closes it.
+click 450 420 3
+shot 5-plot-menu
+changed=$(pixels_changed 4-invert-edited 5-plot-menu 200x200+450+420)
+verdict "$([[ $changed -gt 500 ]] && echo 1 || echo 0)" \
+    "the plot's menu opened under the mouse ($changed pixels changed)"
+keys Escape
+
 # Reach > Flow Calculator: the dialog opens over the frame; a depth typed recomputes the rest.
 click 57 31
 click 90 52
 wait_for xdotool search --name "Flow calculator"
 dialog=$(xdotool search --name "Flow calculator" | head -1)
 xdotool windowfocus --sync "$dialog"
-shot 5-flow-calculator
+shot 6-flow-calculator
 eval "$(xdotool getwindowgeometry --shell "$dialog")"
 # The depth field: the dialog's font makes a dialog unit 1.5 pixels across and 1.625 down.
 click $((X + 290)) $((Y + 22 + 276))
 keys ctrl+a
 xdotool type --delay 120 "1.2"
 sleep 0.6
-shot 6-depth-typed
-changed=$(pixels_changed 5-flow-calculator 6-depth-typed "${WIDTH}x80+$X+$((Y + 250))")
+shot 7-depth-typed
+changed=$(pixels_changed 6-flow-calculator 7-depth-typed "${WIDTH}x80+$X+$((Y + 250))")
 verdict "$([[ $changed -gt 20 ]] && echo 1 || echo 0)" \
     "discharge and velocity recomputed as the depth was typed ($changed pixels changed)"
 keys Escape
 keys Escape
-shot 7-dialog-closed
+shot 8-dialog-closed
 if xdotool search --name "Flow calculator" >/dev/null 2>&1; then
     verdict 0 "Escape closes the flow calculator"
 else
