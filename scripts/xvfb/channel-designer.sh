@@ -2,8 +2,8 @@
 # Drives Channel Designer on a virtual X display with real X events, along its main path: opens
 # a reach from the File menu, edits an invert in the sheet with the mouse and the keys and sees
 # the long profile follow, opens the plot's menu with a right click, opens the flow calculator
-# from the Reach menu and types a depth, then closes it. Saves a screenshot after each step into the folder given, and
-# checks what it can.
+# from the Reach menu and types a depth, then closes it. Saves a screenshot after each step into
+# the folder given, and checks what it can.
 #
 #   scripts/xvfb/channel-designer.sh <screenshot folder> [channel-designer binary]
 set -euo pipefail
