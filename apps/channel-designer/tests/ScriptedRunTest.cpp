@@ -307,6 +307,16 @@ TEST_F(ScriptedRun, TheFlowCalculatorRecomputesAsTheUserTypesAndAppliesTheDesign
             velocity = flow.velocity.GetValue();
             SaveScreen(dialog, "08-flow-calculator");
         })
+        .Type(FlowDialog::kBarrelsId, "2")
+        .Run([&](CDialog& dialog, UiDriver&) {
+            // Two barrels share the discharge: each runs at the depth of half of it.
+            auto& flow = static_cast<FlowDialog&>(dialog);
+            const CrossSection& s = document.reach.sections[1];
+            EXPECT_NEAR(flow.depth.GetValue(),
+                        *s.NormalDepth(flow.discharge.GetValue() / 2, document.reach.BedSlope(1)),
+                        0.001);
+        })
+        .Type(FlowDialog::kBarrelsId, "1")
         .Type(FlowDialog::kDischargeId, "6.5")
         .Run([&](CDialog& dialog, UiDriver& driver) {
             auto& flow = static_cast<FlowDialog&>(dialog);
