@@ -53,7 +53,7 @@ CPoint ClipToCursorArea(CPoint p) {
 
 // The mouse's input waits unrouted, with the keys held as it came and its click count, until
 // its turn: a handler of the input before it may set the capture or lay a window under it. The
-// wheel waits the same way, with its turn in `wParam` and its point in `lParam`.
+// wheel waits the same way, with the parameters of its message made as it came.
 void QueueMouse(UINT message, CPoint screen, int clickCount) {
     PostInput(MSG{nullptr, message, MouseKeyFlags(), LPARAM(clickCount), GetHost().Now(), screen});
 }
