@@ -303,6 +303,31 @@ TEST_F(GridCellComboTest, TheApplicationHearsTheEditInOrderAndMayRefuseIt) {
     EXPECT_FALSE(Combo(kRow, kListColumn)->IsEditing());
 }
 
+TEST_F(GridCellComboTest, TheClosedFieldCoversTheCellUpToItsGridLinesAndTheListDropsBelowIt) {
+    constexpr int kTallRow = 40;
+    grid.SetRowHeight(kOtherRow, kTallRow);
+    for (const CCellID at : {CCellID(kRow, kListColumn), CCellID(kRow, kFreeColumn),
+                             CCellID(kOtherRow, kListColumn)}) {
+        const CRect cell = CellRect(at.row, at.col);
+        ui.Click(Grid(), OnArrow(at.row, at.col));
+        ASSERT_NE(Editor(), nullptr);
+        CRect field;
+        Editor()->GetWindowRect(&field);
+        grid.ScreenToClient(&field);
+        // The cell's rectangle holds its grid lines, its last column and row, which stay in view.
+        EXPECT_EQ(field, CRect(cell.left, cell.top, cell.right, cell.bottom))
+            << at.row << "," << at.col;
+        // Every option shows in the open list, right under the field.
+        CRect list;
+        ::GetWindowRect(PopUpList(), &list);
+        grid.ScreenToClient(&list);
+        EXPECT_EQ(list.top, field.bottom);
+        EXPECT_GE(list.Height(), int(std::size(kOptions)) * Editor()->GetItemHeight(0));
+        ui.PressKey(VK_ESCAPE);
+        EXPECT_EQ(Editor(), nullptr);
+    }
+}
+
 TEST_F(GridCellComboTest, TheListIsNeverWiderThanTwoHundredPixels) {
     CStringArray options;
     options.Add("A very long option that would not fit in any reasonable drop-down list");

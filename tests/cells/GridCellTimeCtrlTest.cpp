@@ -187,6 +187,32 @@ TEST_F(TimeCellTest, AnApplicationClearingTheValueUnderAnOpenPickerGetsThePicker
     EXPECT_EQ(Text(), "3/20/2024 2:05:09 PM");
 }
 
+TEST_F(TimeCellTest, ADoubleClickOnTheArrowOrBesideItOpensOnePickerThatTheCellKnows) {
+    // The arrow's right edge, and the cell's grid line beside it, which no picker covers.
+    const CRect cell = CellRect(kRow, kTimeColumn);
+    const CPoint arrowEdge(cell.right - 1, cell.top + kArrowInset);
+    const CPoint gridLine(cell.right, cell.top + kArrowInset);
+    for (const CPoint point : {ArrowPoint(), arrowEdge, gridLine}) {
+        ui.Click(Grid(), CellCentre(kOtherRow, kTimeColumn));
+        ui.DoubleClick(Grid(), point);
+        std::vector<HWND> pickers;
+        for (HWND child = ::GetWindow(Grid(), GW_CHILD); child != nullptr;
+             child = ::GetWindow(child, GW_HWNDNEXT)) {
+            if (::GetDlgCtrlID(child) == IDC_INPLACE_CONTROL) {
+                pickers.push_back(child);
+            }
+        }
+        ASSERT_EQ(pickers.size(), 1u) << point.x;
+        EXPECT_TRUE(Cell().IsEditing()) << point.x;
+        ASSERT_NE(Editor(), nullptr) << point.x;
+        EXPECT_EQ(Editor()->GetSafeHwnd(), pickers.front()) << point.x;
+        ui.PressKey(VK_ESCAPE); // closes a dropped calendar, if the first click dropped one
+        ui.PressKey(VK_RETURN);
+        EXPECT_FALSE(Cell().IsEditing()) << point.x;
+        EXPECT_FALSE(::IsWindow(pickers.front())) << point.x;
+    }
+}
+
 TEST_F(TimeCellTest, DigitsAndArrowsEditTheFieldsInTheOrderOfTheRegionalDate) {
     DoubleClickLeftEdge();
     ASSERT_NE(Editor(), nullptr);
