@@ -10,6 +10,13 @@
 #include "plot/PlotWindows.h"
 #include "support/TempFiles.h"
 
+#include <cstdio>
+
+ReachDocument::~ReachDocument() {
+    if (!recoveryPath.empty())
+        std::remove(recoveryPath.c_str());
+}
+
 void ReachDocument::Changed() {
     if (sheet)
         sheet->ShowProfile(reach);

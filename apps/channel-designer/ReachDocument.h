@@ -18,6 +18,12 @@ constexpr int kReachChangedBit = 30;
 
 class ReachDocument {
 public:
+    ReachDocument() = default;
+    ReachDocument(const ReachDocument&) = delete;
+    ReachDocument& operator=(const ReachDocument&) = delete;
+    // A reach closed as it should be needs no recovery copy.
+    ~ReachDocument();
+
     Reach reach;
     std::string path;
     std::string recoveryPath; // a copy after each change, for when the program dies

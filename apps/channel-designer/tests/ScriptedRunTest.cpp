@@ -380,15 +380,26 @@ TEST_F(ScriptedRun, HelpOpensTheDocumentAtTheTopicOfTheMenuOrTheDialog) {
     EXPECT_EQ(ReaderArguments(), "/A\nnameddest=Run Analysis\n" + document + "\n");
 }
 
-TEST_F(ScriptedRun, ClosingAReachClosesItsPlots) {
+TEST_F(ScriptedRun, ClosingAReachClosesItsPlotsAndDropsItsRecoveryCopy) {
     m_reach = OpenThroughDialog("east-drain");
     ASSERT_TRUE(m_reach);
     ASSERT_TRUE(m_frame->OpenReach(m_frame->ExamplePath(1)));
     EXPECT_EQ(g_plotList.NumPlots(), 4);
-    m_ui.Click(Sheet(*m_reach), CellCentre(1, Column::kChainage));
+    const std::string recovery = m_reach->Document().recoveryPath;
+    EXPECT_TRUE(fs::exists(recovery));
+    // East Drain lies under Mill Creek, but its caption shows above it: a click there brings
+    // it forward, and File > Close Window closes it.
+    CRect window, client;
+    m_reach->GetWindowRect(&window);
+    m_reach->GetClientRect(&client);
+    m_reach->ClientToScreen(&client);
+    m_ui.Click(*m_reach, CPoint(window.Width() / 2, (window.top - client.top) / 2));
+    EXPECT_EQ(m_frame->MDIGetActive(), m_reach);
     ChooseFromMenuBar(0, "Close Window");
-    EXPECT_EQ(m_frame->Reaches().size(), 1u);
+    ASSERT_EQ(m_frame->Reaches().size(), 1u);
+    EXPECT_EQ(m_frame->Reaches()[0]->Document().reach.name, "Mill Creek to the road culvert");
     EXPECT_EQ(g_plotList.NumPlots(), 2);
+    EXPECT_FALSE(fs::exists(recovery)) << "a reach closed as it should be needs no recovery copy";
 }
 
 TEST_F(ScriptedRun, EveryMenuOfTheBarOpensAndItsCommandsAct) {
