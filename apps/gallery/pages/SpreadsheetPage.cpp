@@ -11,6 +11,7 @@
 // (where cells, arrows, list items and days are); the scripted edits; the page.
 
 #include "GalleryPage.h"
+#include "GridPageKit.h"
 
 #include "cells/ColorChooserDlg.h"
 #include "cells/GridCellCheckbox.h"
@@ -143,13 +144,9 @@ protected:
 private:
     void SetTypes() {
         CStringArray materials;
-        for (const char* material : kMaterials) {
-            materials.Add(material);
-        }
+        AddStrings(materials, kMaterials);
         CStringArray flowChoices;
-        for (const char* choice : kFlowChoices) {
-            flowChoices.Add(choice);
-        }
+        AddStrings(flowChoices, kFlowChoices);
         sheet.SetColumnType(new EColTypeFLT(kChainage, 1));
         sheet.SetColumnType(new EColTypeFLT(kUpstream, 3));
         sheet.SetColumnType(new EColTypeFLT(kDownstream, 3));
@@ -226,9 +223,7 @@ private:
 // Where the user clicks a cell, scrolled into view first.
 CPoint Centre(CSpreadSheetORVA& sheet, int row, int col) {
     sheet.EnsureVisible(row, col);
-    CRect rect;
-    sheet.GetCellRect(row, col, &rect);
-    return rect.CenterPoint();
+    return CellCentre(sheet, row, col);
 }
 
 CPoint OnArrow(CSpreadSheetORVA& sheet, int row, int col) {
@@ -238,28 +233,10 @@ CPoint OnArrow(CSpreadSheetORVA& sheet, int row, int col) {
     return CPoint(rect.right - kArrowInset, rect.top + kArrowInset);
 }
 
-// The open combo editor's dropped list, the top-level window just under its field.
-HWND DroppedList(CWnd& editor) {
-    CRect field;
-    editor.GetWindowRect(&field);
-    return WindowFromPoint(CPoint(field.left + 5, field.bottom + 5));
-}
-
-// Item `index` of a dropped list, in the list's client area.
-CPoint ListItemPoint(CComboBox& editor, int index) {
-    const int height = editor.GetItemHeight(0);
-    return CPoint(10, index * height + height / 2);
-}
-
 void PickFromList(UiDriver& ui, CSpreadSheetORVA& sheet, int index) {
-    auto* list = static_cast<CComboBox*>(sheet.GetWindow(GW_CHILD));
-    if (list == nullptr) {
-        return;
+    if (CComboBox* list = InPlaceCombo(sheet)) {
+        PickListItem(ui, *list, index);
     }
-    const CPoint item = ListItemPoint(*list, index);
-    const HWND dropped = DroppedList(*list);
-    ui.MouseMove(dropped, item);
-    ui.Click(dropped, item);
 }
 
 // The open date editor's calendar, or null.
@@ -313,7 +290,7 @@ void ReportPlaces(CulvertDialog& dialog, GalleryContext& context) {
     UiDriver ui;
     report("material-arrow", window, OnArrow(sheet, row, kMaterial));
     ui.Click(window, OnArrow(sheet, row, kMaterial));
-    if (auto* list = static_cast<CComboBox*>(sheet.GetWindow(GW_CHILD))) {
+    if (CComboBox* list = InPlaceCombo(sheet)) {
         report("material-hdpe", DroppedList(*list), ListItemPoint(*list, 2));
         ui.PressKey(VK_ESCAPE);
     }
