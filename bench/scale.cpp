@@ -3,9 +3,10 @@
 // a sort of a text column as n log n, and a line chart's render with its points (up to
 // 10,000,000).
 
+#include "FullHdGrid.h"
+
 #include "chart/ChartEngine.h"
 #include "chart/ChartPropertyIds.h"
-#include "grid/GridCtrl.h"
 #include "platform/gdi/canvas/Canvas.h"
 
 #include <benchmark/benchmark.h>
@@ -18,11 +19,6 @@
 
 namespace {
 
-constexpr int kClientWidth = 1920;
-constexpr int kClientHeight = 1080;
-constexpr int kRowHeight = 20;
-constexpr int kColWidth = 64;
-constexpr int kCols = 40;
 constexpr int kStoreCols = 20;
 constexpr int kTextRows = 10000;
 constexpr int kWordLength = 8;
@@ -38,28 +34,12 @@ BOOL AnswerVirtualCell(GV_DISPINFO* request, LPARAM) {
 // A full-HD virtual grid of `rows` rows scrolled to the middle, painted again and again.
 void VirtualRepaintByRows(benchmark::State& state) {
     const int rows = int(state.range(0));
-    CWnd frame;
-    frame.CreateEx(0, nullptr, "bench", WS_POPUP | WS_VISIBLE, 0, 0, kClientWidth + 40,
-                   kClientHeight + 40, nullptr, nullptr);
-    CGridCtrl grid;
-    grid.Create(CRect(0, 0, kClientWidth, kClientHeight), &frame, 1, WS_CHILD | WS_VISIBLE);
-    grid.SetVirtualMode(TRUE);
-    grid.SetCallbackFunc(AnswerVirtualCell, 0);
-    grid.SetDefCellHeight(kRowHeight);
-    grid.SetRowCount(rows);
-    grid.SetColumnCount(kCols);
-    grid.SetFixedRowCount(1);
-    grid.SetFixedColumnCount(1);
-    for (int col = 0; col < kCols; col++) {
-        grid.SetColumnWidth(col, kColWidth);
-    }
-    grid.SendMessage(WM_SIZE);
-    grid.SetScrollPos32(SB_VERT, rows / 2 * kRowHeight);
-    grid.Invalidate();
-    grid.UpdateWindow();
+    FullHdGrid window;
+    window.MakeVirtual(rows, AnswerVirtualCell);
+    window.ScrollToMiddle();
+    window.Repaint();
     for (auto _ : state) {
-        grid.Invalidate();
-        grid.UpdateWindow();
+        window.Repaint();
     }
     state.SetComplexityN(rows);
 }
