@@ -4,6 +4,7 @@
 // 10,000,000).
 
 #include "FullHdGrid.h"
+#include "TextSort.h"
 
 #include "chart/ChartEngine.h"
 #include "chart/ChartPropertyIds.h"
@@ -13,7 +14,6 @@
 
 #include <cmath>
 #include <memory>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -21,7 +21,6 @@ namespace {
 
 constexpr int kStoreCols = 20;
 constexpr int kTextRows = 10000;
-constexpr int kWordLength = 8;
 constexpr int kChartWidth = 1200;
 constexpr int kChartHeight = 800;
 
@@ -69,32 +68,12 @@ BENCHMARK(SetRowCountByRows)
     ->Unit(benchmark::kMillisecond)
     ->Complexity(benchmark::oN);
 
-// Random words of one length, the same at every run.
-std::vector<std::string> RandomWords(int count) {
-    std::mt19937 random(42);
-    std::uniform_int_distribution<int> letter('a', 'z');
-    std::vector<std::string> words(size_t(count), std::string(kWordLength, ' '));
-    for (std::string& word : words) {
-        for (char& ch : word) {
-            ch = char(letter(random));
-        }
-    }
-    return words;
-}
-
 // Each round sorts the words in the order they were made, under a fixed header row.
 void SortTextByRows(benchmark::State& state) {
     const int rows = int(state.range(0));
     const std::vector<std::string> words = RandomWords(rows);
     CGridCtrl grid(rows + 1, 1, 1, 0);
-    for (auto _ : state) {
-        state.PauseTiming();
-        for (int row = 0; row < rows; row++) {
-            grid.SetItemText(row + 1, 0, words[size_t(row)].c_str());
-        }
-        state.ResumeTiming();
-        grid.SortTextItems(0, TRUE);
-    }
+    TimeTextSort(state, grid, words);
     state.SetComplexityN(rows);
 }
 BENCHMARK(SortTextByRows)
