@@ -2,6 +2,7 @@
 
 #include "GridPageKit.h"
 
+#include "cells/GridCellCheckbox.h"
 #include "grid/GridCtrl.h"
 #include "platform/system/SystemMetrics.h"
 #include "platform/testing/UiDriver.h"
@@ -33,6 +34,12 @@ CPoint CellCentre(CGridCtrl& grid, int row, int col) {
     CRect rect;
     grid.GetCellRect(row, col, &rect);
     return rect.CenterPoint();
+}
+
+CPoint CheckBoxCentre(CGridCtrl& grid, int row, int col) {
+    CRect cell;
+    grid.GetCellRect(row, col, &cell);
+    return CGridCellCheckbox::BoxRect(cell).CenterPoint();
 }
 
 CPoint StripPoint(CGridCtrl& grid, int row, int col, StripEnd end) {

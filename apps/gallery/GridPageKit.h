@@ -25,6 +25,9 @@ void AddStrings(CStringArray& list, std::span<const char* const> texts);
 // The centre of a cell, in the grid's client area.
 CPoint CellCentre(CGridCtrl& grid, int row, int col);
 
+// The centre of a check box cell's box, in the grid's client area.
+CPoint CheckBoxCentre(CGridCtrl& grid, int row, int col);
+
 // A point in the strip of a cell's drop arrow or button, a scroll bar wide at the cell's right
 // edge, a few pixels in from the cell's top or bottom.
 enum class StripEnd { kTop, kBottom };

@@ -14,7 +14,6 @@
 #include "GridPageKit.h"
 
 #include "cells/ColorChooserDlg.h"
-#include "cells/GridCellCheckbox.h"
 #include "cells/GridCellFltXYCrv.h"
 #include "controls/DialogORVA.h"
 #include "platform/system/DateTime.h"
@@ -283,9 +282,7 @@ void ReportPlaces(CulvertDialog& dialog, GalleryContext& context) {
     const HWND window = sheet.GetSafeHwnd();
     report("diameter-cell", window, Centre(sheet, row, kDiameter));
     report("details-button", window, Centre(sheet, row - 1, kDetails));
-    CRect box;
-    sheet.GetCellRect(row, kSurveyed, &box);
-    report("surveyed-box", window, CGridCellCheckbox::BoxRect(box).CenterPoint());
+    report("surveyed-box", window, CheckBoxCentre(sheet, row, kSurveyed));
 
     UiDriver ui;
     report("material-arrow", window, OnArrow(sheet, row, kMaterial));
@@ -341,10 +338,8 @@ void PlayTheUser(CulvertDialog& dialog, GalleryContext& context) {
         "picked: material %s, inspected %s, flow %s", sheet.GetItemText(2, kMaterial).GetString(),
         sheet.GetItemText(4, kInspected).GetString(), sheet.GetItemText(3, kFlow).GetString());
     // A box ticked by a click, another by space; a colour from the chooser; the buttons.
-    CRect box;
     sheet.EnsureVisible(2, kSurveyed);
-    sheet.GetCellRect(2, kSurveyed, &box);
-    ui.Click(window, CGridCellCheckbox::BoxRect(box).CenterPoint());
+    ui.Click(window, CheckBoxCentre(sheet, 2, kSurveyed));
     ui.Click(window, Centre(sheet, 4, kSurveyed));
     ui.Type(" ");
     ModalResponder modal;

@@ -89,9 +89,7 @@ void PlayTheUser(TypedCellsPage& page, GalleryContext& context) {
                   grid.GetItemText(2, kBarrels).GetString(), grid.GetItemText(2, kSpan).GetString(),
                   grid.GetItemText(2, kSlope).GetString());
     // A tick in the box of row 2, and a press of row 3's button.
-    CRect box;
-    grid.GetCellRect(2, kInspected, &box);
-    ui.Click(window, CGridCellCheckbox::BoxRect(box).CenterPoint());
+    ui.Click(window, CheckBoxCentre(grid, 2, kInspected));
     ui.Click(window, CellCentre(grid, 3, kDetails));
     context.Print("Row 2 inspected: %d; button presses heard: %d",
                   int(grid.GetItemData(2, kInspected)), page.frame.buttonPresses);
