@@ -19,7 +19,8 @@ class UiDriver;
 // `grid`, with control id 1, filling its client area.
 void CreateFramedGrid(CWnd& frame, CGridCtrl& grid, const char* title, const CRect& place);
 
-// The texts as a string list, as option cells and column types take their choices.
+// Adds the texts to a string list, the form in which option cells and column types take their
+// choices.
 void AddStrings(CStringArray& list, std::span<const char* const> texts);
 
 // The centre of a cell, in the grid's client area.
