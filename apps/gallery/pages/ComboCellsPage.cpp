@@ -11,6 +11,7 @@
 #include "grid/GridCtrl.h"
 #include "platform/host/Clipboard.h"
 #include "platform/host/GlobalMemory.h"
+#include "platform/testing/ClipboardText.h"
 #include "platform/testing/UiDriver.h"
 #include "platform/widgets/ComboBox.h"
 
@@ -53,18 +54,6 @@ void FillTable(CGridCtrl& grid) {
     }
 }
 
-void PutOnClipboard(const char* text) {
-    if (!OpenClipboard(nullptr)) {
-        return;
-    }
-    EmptyClipboard();
-    HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, std::strlen(text) + 1);
-    std::memcpy(GlobalLock(block), text, std::strlen(text) + 1);
-    GlobalUnlock(block);
-    SetClipboardData(CF_TEXT, block);
-    CloseClipboard();
-}
-
 void PlayTheUser(ComboCellsPage& page, GalleryContext& context) {
     CGridCtrl& grid = page.grid;
     UiDriver ui;
@@ -91,7 +80,7 @@ void PlayTheUser(ComboCellsPage& page, GalleryContext& context) {
     ui.Type("Timber\r");
 
     // A pasted word that is no shape is refused; the material column takes it.
-    PutOnClipboard("Slab");
+    PutTextOnClipboard("Slab");
     ui.Click(window, CellCentre(grid, 5, kShape));
     ui.PressKey('V', MK_CONTROL);
     ui.Click(window, CellCentre(grid, 5, kMaterial));

@@ -18,6 +18,7 @@
 #include "controls/DialogORVA.h"
 #include "platform/system/DateTime.h"
 #include "platform/system/SystemMetrics.h"
+#include "platform/testing/CalendarDays.h"
 #include "platform/testing/ModalResponder.h"
 #include "platform/testing/UiDriver.h"
 #include "platform/widgets/ComboBox.h"
@@ -244,24 +245,9 @@ CMonthCalCtrl* DroppedCalendar(CSpreadSheetORVA& sheet) {
     return picker != nullptr ? picker->GetMonthCalCtrl() : nullptr;
 }
 
-// The point of `day` of the month that the calendar shows, in its client area.
-CPoint DayPoint(CMonthCalCtrl& calendar, int day) {
-    CRect client;
-    calendar.GetClientRect(&client);
-    for (int y = client.top; y < client.bottom; y += 2) {
-        for (int x = client.left; x < client.right; x += 2) {
-            MCHITTESTINFO hit{sizeof(MCHITTESTINFO), {x, y}, 0, {}};
-            if (calendar.HitTest(&hit) == MCHT_CALENDARDATE && hit.st.wDay == day) {
-                return CPoint(x, y);
-            }
-        }
-    }
-    return CPoint(-1, -1);
-}
-
 void PickDay(UiDriver& ui, CSpreadSheetORVA& sheet, int day) {
     if (CMonthCalCtrl* calendar = DroppedCalendar(sheet)) {
-        ui.Click(calendar->GetSafeHwnd(), DayPoint(*calendar, day));
+        ui.Click(calendar->GetSafeHwnd(), CalendarDayPoint(*calendar, day));
         ui.PressKey(VK_RETURN);
     }
 }
@@ -294,7 +280,7 @@ void ReportPlaces(CulvertDialog& dialog, GalleryContext& context) {
     report("inspected-arrow", window, OnArrow(sheet, row, kInspected));
     ui.Click(window, OnArrow(sheet, row, kInspected));
     if (CMonthCalCtrl* calendar = DroppedCalendar(sheet)) {
-        report("inspected-day-28", calendar->GetSafeHwnd(), DayPoint(*calendar, 28));
+        report("inspected-day-28", calendar->GetSafeHwnd(), CalendarDayPoint(*calendar, 28));
     }
     ui.Click(window, Centre(sheet, 1, kCulvert));
 }
