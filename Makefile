@@ -18,9 +18,15 @@ $(BUILD)/build.ninja:
 build: deps $(BUILD)/build.ninja
 	cmake --build $(BUILD) -j $(JOBS)
 
+# Headless: the gallery's pictures, and the screens of Channel Designer's scripted run in
+# $(GALLERY_OUT)/app. With a display, Channel Designer then opens for the user.
 demo: build
 	$(BUILD)/apps/gallery/gallery --out $(GALLERY_OUT)
-	@if [ -n "$$DISPLAY" ]; then $(BUILD)/apps/gallery/gallery --window --out $(GALLERY_OUT); fi
+	mkdir -p $(BUILD)/test-tmp/channel-designer $(GALLERY_OUT)/app
+	TMPDIR=$(abspath $(BUILD))/test-tmp/channel-designer CHANNEL_DESIGNER_SHOTS=$(abspath $(GALLERY_OUT))/app \
+		$(BUILD)/apps/channel-designer/test_channel_designer --gtest_filter='ScriptedRun.*' --gtest_brief=1
+	@ls $(GALLERY_OUT)/app
+	@if [ -n "$$DISPLAY" ]; then $(BUILD)/apps/channel-designer/channel-designer; fi
 
 test: build
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)

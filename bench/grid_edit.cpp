@@ -2,6 +2,8 @@
 // strings; and pasting a 1000 x 20 block of clipboard text, against setting the same texts
 // one by one with SetItemText.
 
+#include "TextSort.h"
+
 #include "grid/GridCtrl.h"
 #include "platform/host/Clipboard.h"
 #include "platform/host/GlobalMemory.h"
@@ -11,7 +13,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -21,29 +22,10 @@ constexpr int kSortRows = 100000;
 constexpr int kPasteRows = 1000;
 constexpr int kPasteCols = 20;
 
-std::vector<std::string> RandomWords(int count) {
-    std::mt19937 random(42);
-    std::uniform_int_distribution<int> letter('a', 'z');
-    std::vector<std::string> words(size_t(count), std::string(8, ' '));
-    for (std::string& word : words) {
-        for (char& ch : word) {
-            ch = char(letter(random));
-        }
-    }
-    return words;
-}
-
 void GridSortTextColumn(benchmark::State& state) {
     const std::vector<std::string> words = RandomWords(kSortRows);
     CGridCtrl grid(kSortRows + 1, 2, 1, 0);
-    for (auto _ : state) {
-        state.PauseTiming();
-        for (int row = 0; row < kSortRows; row++) {
-            grid.SetItemText(row + 1, 0, words[size_t(row)].c_str());
-        }
-        state.ResumeTiming();
-        grid.SortTextItems(0, TRUE);
-    }
+    TimeTextSort(state, grid, words);
 }
 BENCHMARK(GridSortTextColumn)->Unit(benchmark::kMillisecond);
 

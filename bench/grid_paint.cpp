@@ -3,7 +3,7 @@
 // the same fills, lines and texts into an image of the same size. And a page scroll with its
 // repaint in a virtual grid of 1,000,000 rows scrolled to the middle.
 
-#include "grid/GridCtrl.h"
+#include "FullHdGrid.h"
 
 #include <benchmark/benchmark.h>
 #include <cairo.h>
@@ -15,37 +15,8 @@
 
 namespace {
 
-constexpr int kClientWidth = 1920;
-constexpr int kClientHeight = 1080;
-constexpr int kRowHeight = 20;
-constexpr int kColWidth = 64;
 constexpr int kRows = 80;
-constexpr int kCols = 40;
 constexpr int kVirtualRows = 1000000;
-
-// A visible top-level window whose client area the grid fills.
-struct GridWindow {
-    CWnd frame;
-    CGridCtrl grid;
-
-    explicit GridWindow(int rows) {
-        frame.CreateEx(0, nullptr, "bench", WS_POPUP | WS_VISIBLE, 0, 0, kClientWidth + 40,
-                       kClientHeight + 40, nullptr, nullptr);
-        grid.Create(CRect(0, 0, kClientWidth, kClientHeight), &frame, 1, WS_CHILD | WS_VISIBLE);
-        grid.SetRowCount(rows);
-        grid.SetColumnCount(kCols);
-        grid.SetFixedRowCount(1);
-        grid.SetFixedColumnCount(1);
-        grid.SetDefCellHeight(kRowHeight);
-        for (int col = 0; col < kCols; col++) {
-            grid.SetColumnWidth(col, kColWidth);
-        }
-    }
-    void Repaint() {
-        grid.Invalidate();
-        grid.UpdateWindow();
-    }
-};
 
 void FillShortTexts(CGridCtrl& grid) {
     for (int row = 0; row < grid.GetRowCount(); row++) {
@@ -58,7 +29,8 @@ void FillShortTexts(CGridCtrl& grid) {
 }
 
 void BM_GridRepaint(benchmark::State& state) {
-    GridWindow window(kRows);
+    FullHdGrid window;
+    window.MakeStored(kRows);
     FillShortTexts(window.grid);
     window.Repaint();
     for (auto _ : state) {
@@ -96,18 +68,8 @@ BOOL AnswerNewText(GV_DISPINFO* request, LPARAM) {
 }
 
 void BM_GridFirstPaint(benchmark::State& state) {
-    GridWindow window(0);
-    window.grid.SetVirtualMode(TRUE);
-    window.grid.SetCallbackFunc(AnswerNewText, 0);
-    window.grid.SetDefCellHeight(kRowHeight);
-    window.grid.SetRowCount(kRows);
-    window.grid.SetColumnCount(kCols);
-    window.grid.SetFixedRowCount(1);
-    window.grid.SetFixedColumnCount(1);
-    for (int col = 0; col < kCols; col++) {
-        window.grid.SetColumnWidth(col, kColWidth);
-    }
-    window.grid.SendMessage(WM_SIZE);
+    FullHdGrid window;
+    window.MakeVirtual(kRows, AnswerNewText);
     for (auto _ : state) {
         ++g_generation;
         window.Repaint();
@@ -207,20 +169,10 @@ BOOL AnswerVirtualCell(GV_DISPINFO* request, LPARAM) {
 }
 
 // A virtual grid of a million rows scrolled to the middle, each cell's text given on request.
-struct VirtualGridWindow : GridWindow {
-    VirtualGridWindow() : GridWindow(0) {
-        grid.SetVirtualMode(TRUE);
-        grid.SetCallbackFunc(AnswerVirtualCell, 0);
-        grid.SetDefCellHeight(kRowHeight);
-        grid.SetRowCount(kVirtualRows);
-        grid.SetColumnCount(kCols);
-        grid.SetFixedRowCount(1);
-        grid.SetFixedColumnCount(1);
-        for (int col = 0; col < kCols; col++) {
-            grid.SetColumnWidth(col, kColWidth);
-        }
-        grid.SendMessage(WM_SIZE);
-        grid.SetScrollPos32(SB_VERT, kVirtualRows / 2 * kRowHeight);
+struct VirtualGridWindow : FullHdGrid {
+    VirtualGridWindow() {
+        MakeVirtual(kVirtualRows, AnswerVirtualCell);
+        ScrollToMiddle();
         Repaint();
     }
 };

@@ -4,11 +4,11 @@
 // included. Also the cost of one cell lookup in virtual mode, where each call asks the
 // application for the cell's data.
 
+#include "HeapPerCell.h"
+
 #include "grid/GridCtrl.h"
 
 #include <benchmark/benchmark.h>
-
-#include <malloc.h>
 
 #include <memory>
 #include <vector>
@@ -19,65 +19,50 @@ constexpr int kRows = 100000;
 constexpr int kCols = 20;
 constexpr double kCells = double(kRows) * kCols;
 
-size_t HeapInUse() {
-    return mallinfo2().uordblks;
-}
-
 void GridSetRowCount(benchmark::State& state) {
-    double bytesPerCell = 0;
-    for (auto _ : state) {
-        state.PauseTiming();
-        auto grid = std::make_unique<CGridCtrl>();
-        grid->SetColumnCount(kCols);
-        const size_t before = HeapInUse();
-        state.ResumeTiming();
-
-        grid->SetRowCount(kRows);
-
-        state.PauseTiming();
-        bytesPerCell = double(HeapInUse() - before) / kCells;
-        grid.reset();
-        state.ResumeTiming();
-    }
-    state.counters["bytes_per_cell"] = bytesPerCell;
+    MeasureBytesPerCell(
+        state, kCells,
+        [] {
+            auto grid = std::make_unique<CGridCtrl>();
+            grid->SetColumnCount(kCols);
+            return grid;
+        },
+        [](CGridCtrl& grid) { grid.SetRowCount(kRows); });
     state.counters["cell_object_size"] = double(sizeof(CGridCell));
-    state.SetItemsProcessed(state.iterations() * int64_t(kCells));
 }
 
 struct BareCell {
     alignas(alignof(CGridCell)) unsigned char bytes[sizeof(CGridCell)];
 };
 
-void BaselineBareObjects(benchmark::State& state) {
-    double bytesPerCell = 0;
-    for (auto _ : state) {
-        state.PauseTiming();
-        std::vector<std::vector<BareCell*>*> rows;
-        const size_t before = HeapInUse();
-        state.ResumeTiming();
+// Rows of pointers to bare cells, laid out as the grid keeps its rows.
+struct BareRows {
+    std::vector<std::vector<BareCell*>*> rows;
 
-        rows.reserve(kRows);
-        for (int row = 0; row < kRows; row++) {
-            auto* cells = new std::vector<BareCell*>(kCols, nullptr);
-            for (BareCell*& cell : *cells) {
-                cell = new BareCell;
-            }
-            rows.push_back(cells);
-        }
-        benchmark::DoNotOptimize(rows.data());
-
-        state.PauseTiming();
-        bytesPerCell = double(HeapInUse() - before) / kCells;
+    ~BareRows() {
         for (auto* cells : rows) {
             for (BareCell* cell : *cells) {
                 delete cell;
             }
             delete cells;
         }
-        state.ResumeTiming();
     }
-    state.counters["bytes_per_cell"] = bytesPerCell;
-    state.SetItemsProcessed(state.iterations() * int64_t(kCells));
+};
+
+void BaselineBareObjects(benchmark::State& state) {
+    MeasureBytesPerCell(
+        state, kCells, [] { return std::make_unique<BareRows>(); },
+        [](BareRows& bare) {
+            bare.rows.reserve(kRows);
+            for (int row = 0; row < kRows; row++) {
+                auto* cells = new std::vector<BareCell*>(kCols, nullptr);
+                for (BareCell*& cell : *cells) {
+                    cell = new BareCell;
+                }
+                bare.rows.push_back(cells);
+            }
+            benchmark::DoNotOptimize(bare.rows.data());
+        });
 }
 
 BOOL AnswerRowAndColumn(GV_DISPINFO* request, LPARAM) {

@@ -3,29 +3,24 @@
 // a sort of a text column as n log n, and a line chart's render with its points (up to
 // 10,000,000).
 
+#include "FullHdGrid.h"
+#include "TextSort.h"
+
 #include "chart/ChartEngine.h"
 #include "chart/ChartPropertyIds.h"
-#include "grid/GridCtrl.h"
 #include "platform/gdi/canvas/Canvas.h"
 
 #include <benchmark/benchmark.h>
 
 #include <cmath>
 #include <memory>
-#include <random>
 #include <string>
 #include <vector>
 
 namespace {
 
-constexpr int kClientWidth = 1920;
-constexpr int kClientHeight = 1080;
-constexpr int kRowHeight = 20;
-constexpr int kColWidth = 64;
-constexpr int kCols = 40;
 constexpr int kStoreCols = 20;
 constexpr int kTextRows = 10000;
-constexpr int kWordLength = 8;
 constexpr int kChartWidth = 1200;
 constexpr int kChartHeight = 800;
 
@@ -38,28 +33,12 @@ BOOL AnswerVirtualCell(GV_DISPINFO* request, LPARAM) {
 // A full-HD virtual grid of `rows` rows scrolled to the middle, painted again and again.
 void VirtualRepaintByRows(benchmark::State& state) {
     const int rows = int(state.range(0));
-    CWnd frame;
-    frame.CreateEx(0, nullptr, "bench", WS_POPUP | WS_VISIBLE, 0, 0, kClientWidth + 40,
-                   kClientHeight + 40, nullptr, nullptr);
-    CGridCtrl grid;
-    grid.Create(CRect(0, 0, kClientWidth, kClientHeight), &frame, 1, WS_CHILD | WS_VISIBLE);
-    grid.SetVirtualMode(TRUE);
-    grid.SetCallbackFunc(AnswerVirtualCell, 0);
-    grid.SetDefCellHeight(kRowHeight);
-    grid.SetRowCount(rows);
-    grid.SetColumnCount(kCols);
-    grid.SetFixedRowCount(1);
-    grid.SetFixedColumnCount(1);
-    for (int col = 0; col < kCols; col++) {
-        grid.SetColumnWidth(col, kColWidth);
-    }
-    grid.SendMessage(WM_SIZE);
-    grid.SetScrollPos32(SB_VERT, rows / 2 * kRowHeight);
-    grid.Invalidate();
-    grid.UpdateWindow();
+    FullHdGrid window;
+    window.MakeVirtual(rows, AnswerVirtualCell);
+    window.ScrollToMiddle();
+    window.Repaint();
     for (auto _ : state) {
-        grid.Invalidate();
-        grid.UpdateWindow();
+        window.Repaint();
     }
     state.SetComplexityN(rows);
 }
@@ -89,32 +68,12 @@ BENCHMARK(SetRowCountByRows)
     ->Unit(benchmark::kMillisecond)
     ->Complexity(benchmark::oN);
 
-// Random words of one length, the same at every run.
-std::vector<std::string> RandomWords(int count) {
-    std::mt19937 random(42);
-    std::uniform_int_distribution<int> letter('a', 'z');
-    std::vector<std::string> words(size_t(count), std::string(kWordLength, ' '));
-    for (std::string& word : words) {
-        for (char& ch : word) {
-            ch = char(letter(random));
-        }
-    }
-    return words;
-}
-
 // Each round sorts the words in the order they were made, under a fixed header row.
 void SortTextByRows(benchmark::State& state) {
     const int rows = int(state.range(0));
     const std::vector<std::string> words = RandomWords(rows);
     CGridCtrl grid(rows + 1, 1, 1, 0);
-    for (auto _ : state) {
-        state.PauseTiming();
-        for (int row = 0; row < rows; row++) {
-            grid.SetItemText(row + 1, 0, words[size_t(row)].c_str());
-        }
-        state.ResumeTiming();
-        grid.SortTextItems(0, TRUE);
-    }
+    TimeTextSort(state, grid, words);
     state.SetComplexityN(rows);
 }
 BENCHMARK(SortTextByRows)

@@ -3,11 +3,11 @@
 // in the same run. Memory is what the allocator holds (mallinfo2) after the rows are made, cells,
 // their texts and values, and the row arrays included.
 
+#include "HeapPerCell.h"
+
 #include "spreadsheet/SpreadSheetORVA.h"
 
 #include <benchmark/benchmark.h>
-
-#include <malloc.h>
 
 #include <memory>
 
@@ -16,10 +16,6 @@ namespace {
 constexpr int kRows = 10000;
 constexpr int kCols = 12;
 constexpr double kCells = double(kRows) * kCols;
-
-size_t HeapInUse() {
-    return mallinfo2().uordblks;
-}
 
 // One column of each kind that makes a cell of its own, the application's kinds, and text.
 void SetEveryType(CSpreadSheetORVA& sheet) {
@@ -41,25 +37,16 @@ void SetEveryType(CSpreadSheetORVA& sheet) {
 
 template <typename Grid, typename Prepare>
 void MeasureBuild(benchmark::State& state, Prepare prepare) {
-    double bytesPerCell = 0;
-    for (auto _ : state) {
-        state.PauseTiming();
-        auto grid = std::make_unique<Grid>();
-        grid->SetColumnCount(kCols);
-        grid->SetFixedRowCount(1);
-        prepare(*grid);
-        const size_t before = HeapInUse();
-        state.ResumeTiming();
-
-        grid->SetRowCount(kRows);
-
-        state.PauseTiming();
-        bytesPerCell = double(HeapInUse() - before) / kCells;
-        grid.reset();
-        state.ResumeTiming();
-    }
-    state.counters["bytes_per_cell"] = bytesPerCell;
-    state.SetItemsProcessed(state.iterations() * int64_t(kCells));
+    MeasureBytesPerCell(
+        state, kCells,
+        [&prepare] {
+            auto grid = std::make_unique<Grid>();
+            grid->SetColumnCount(kCols);
+            grid->SetFixedRowCount(1);
+            prepare(*grid);
+            return grid;
+        },
+        [](Grid& grid) { grid.SetRowCount(kRows); });
 }
 
 void SpreadsheetBuild(benchmark::State& state) {

@@ -2,8 +2,8 @@
 # The typed spreadsheet on a real X display, driven by real X events: in the gallery's culvert
 # table it types a number into a diameter, picks a material from the dropped list, picks a day
 # in an inspection date's calendar, ticks a "surveyed" box and presses a "Details" button,
-# saving a screenshot after each step. It checks each change twice: in what the application heard, which the gallery prints,
-# and in the pixels of the cell.
+# saving a screenshot after each step. It checks each change twice: in what the application
+# heard, which the gallery prints, and in the pixels of the cell.
 #
 # usage: scripts/xvfb/spreadsheet.sh <screenshot folder> [gallery binary]
 
@@ -14,18 +14,18 @@ here=$(cd "$(dirname "$0")/../.." && pwd)
 gallery=${2:-$here/build/apps/gallery/gallery}
 
 source "$(dirname "$0")/common.sh"
-start_display :81 1280x800
+start_display :86 1280x800
 start_gallery --page 45-spreadsheet
 window=$(xdotool search --sync --onlyvisible --name "Culverts of reach 3" | head -1)
 sleep 1
 
 place() { report_point "$1" "$window"; }
-# The pointer arrives before the button goes down, and the button stays down a moment, as a
-# user's hand does.
+# The pointer arrives before the button goes down, as a user's hand does; the click itself is
+# instant, so that its release may reach the application together with its press.
 click_at() {
     xdotool mousemove "$1" "$2"
     sleep 0.3
-    xdotool mousedown 1 sleep 0.15 mouseup 1
+    xdotool click 1
     sleep 0.8
 }
 # Whether the application heard this line within 10 s; the gallery prints each as it hears it.

@@ -22,8 +22,10 @@ CRect TopRightDropArrow(const CRect& cell) {
 }
 
 bool IsOnTopRightDropArrow(CPoint point, const CRect& cell) {
-    const CSize size = DropArrowSize(cell);
-    return point.x > cell.Width() - size.cx && point.y < size.cy;
+    // The cell's last pixel column is its grid line: the arrow is drawn short of it, and the
+    // editor that the arrow opens is laid short of it too, so a click there belongs to neither.
+    const CRect arrow = TopRightDropArrow(CRect(CPoint(0, 0), cell.Size()));
+    return point.x > arrow.left && point.x < arrow.right && point.y < arrow.bottom;
 }
 
 void DrawDropArrow(CDC* dc, CRect arrow) {

@@ -46,7 +46,10 @@ CInPlaceList::CInPlaceList(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, 
         AddString(items[i]);
     }
     SetFont(pParent->GetFont());
-    SetItemHeight(-1, UINT(cellHeight));
+    FitFieldTo(cellHeight);
+    // A combo takes any height beyond its field for its open list; the lower field left the
+    // window at the old field's height, so the whole height is given again.
+    MoveWindow(dropRect);
     SetDroppedWidth(UINT(GetCorrectDropWidth()));
     SetHorizontalExtent(0);
     if (SelectString(-1, sInitText) == CB_ERR) {
@@ -78,6 +81,15 @@ CInPlaceList::CInPlaceList(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, 
         }
         break;
     }
+}
+
+void CInPlaceList::FitFieldTo(int height) {
+    // The closed combo is its field's item height and a frame around it; the frame is what the
+    // window shows beyond that item, so that the whole field, frame and all, fits the row.
+    CRect closed;
+    GetWindowRect(&closed);
+    const int frame = closed.Height() - GetItemHeight(-1);
+    SetItemHeight(-1, UINT(std::max(1, height - frame)));
 }
 
 CComboEdit* CInPlaceList::GetEditField() {

@@ -44,6 +44,8 @@ protected:
 private:
     ~CInPlaceList() override = default;
     bool IsListOnly() const;
+    // Makes the closed combo, frame included, `height` pixels high.
+    void FitFieldTo(int height);
 
     CComboEdit m_edit;
     int m_nNumLines;

@@ -9,6 +9,8 @@
 #include "cells/InPlaceButton.h"
 #include "grid/GridNotify.h"
 #include "platform/system/SysColors.h"
+#include "platform/window/Input.h"
+#include "platform/window/WindowApi.h"
 
 #include <algorithm>
 
@@ -76,6 +78,32 @@ TEST_F(ButtonCellTest, AClickOnTheBoxTogglesItAndTellsTheOwnerOnceEachTime) {
     EXPECT_EQ(Count(GV_NOTIFY_BEGINLABELEDIT), 0);
     EXPECT_EQ(Count(GV_NOTIFY_ENDLABELEDIT), 0);
     EXPECT_FALSE(grid.GetModified(kRow, kCheckColumn));
+}
+
+TEST_F(ButtonCellTest, AQuickClickWhoseReleaseArrivesWithItsPressStillCounts) {
+    // A display may hand over a quick press and its release together, before the press has
+    // laid its button over the cell.
+    const auto quickClick = [&](CPoint client) {
+        ui.MouseMove(Grid(), client);
+        CPoint screen = client;
+        grid.ClientToScreen(&screen);
+        InjectMouseButton(VK_LBUTTON, true, screen);
+        InjectMouseButton(VK_LBUTTON, false, screen);
+        ui.Pump();
+    };
+    quickClick(OnBox(kRow));
+    EXPECT_TRUE(Checked(kRow));
+    EXPECT_EQ(Count(GV_NOTIFY_CELLBUTTON), 1);
+    EXPECT_EQ(InPlaceButton(), nullptr);
+    EXPECT_EQ(::GetCapture(), nullptr);
+
+    // Nothing holds the mouse, so the next click counts too, quick or not.
+    ui.Click(Grid(), OnBox(kRow));
+    EXPECT_FALSE(Checked(kRow));
+    quickClick(CellCentre(kRow, kButtonColumn));
+    EXPECT_EQ(Count(GV_NOTIFY_CELLBUTTON), 3);
+    EXPECT_EQ(InPlaceButton(), nullptr);
+    EXPECT_EQ(::GetCapture(), nullptr);
 }
 
 TEST_F(ButtonCellTest, APressReleasedElsewhereOrOffTheBoxOrOnADisabledCellDoesNothing) {

@@ -11,6 +11,7 @@
 #include "platform/host/GlobalMemory.h"
 #include "platform/system/SysColors.h"
 #include "platform/system/SystemMetrics.h"
+#include "platform/testing/ClipboardText.h"
 
 #include <cstring>
 #include <vector>
@@ -27,16 +28,6 @@ constexpr int kPipe = 1;
 constexpr int kArch = 2;
 constexpr const char* kForeign = "Slab";
 constexpr int kMaxDropWidth = 200;
-
-void PutOnClipboard(const char* text) {
-    ASSERT_TRUE(OpenClipboard(nullptr));
-    EmptyClipboard();
-    HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, std::strlen(text) + 1);
-    std::memcpy(GlobalLock(block), text, std::strlen(text) + 1);
-    GlobalUnlock(block);
-    SetClipboardData(CF_TEXT, block);
-    CloseClipboard();
-}
 
 class GridCellComboTest : public CellGrid {
 protected:
@@ -253,7 +244,7 @@ TEST_F(GridCellComboTest, ADropDownTakesATypedWordThatIsNoOptionAndTabMovesOn) {
 }
 
 TEST_F(GridCellComboTest, APastedWordThatIsNoOptionIsRefusedByAListOnlyCellAlone) {
-    PutOnClipboard(kForeign);
+    PutTextOnClipboard(kForeign);
     Focus(kRow, kListColumn);
     ui.PressKey('V', MK_CONTROL);
     EXPECT_EQ(grid.GetItemText(kRow, kListColumn), kOptions[0]);
@@ -261,13 +252,13 @@ TEST_F(GridCellComboTest, APastedWordThatIsNoOptionIsRefusedByAListOnlyCellAlone
     ui.PressKey('V', MK_CONTROL);
     EXPECT_EQ(grid.GetItemText(kRow, kFreeColumn), kForeign);
 
-    PutOnClipboard(kOptions[kPipe]);
+    PutTextOnClipboard(kOptions[kPipe]);
     Focus(kRow, kListColumn);
     ui.PressKey('V', MK_CONTROL);
     EXPECT_EQ(grid.GetItemText(kRow, kListColumn), kOptions[kPipe]);
 
     // An open list-only editor has no field to paste into; a drop-down's field takes it.
-    PutOnClipboard(kForeign);
+    PutTextOnClipboard(kForeign);
     ui.Click(Grid(), OnArrow(kRow, kListColumn));
     ASSERT_NE(Editor(), nullptr);
     EXPECT_EQ(Combo(kRow, kListColumn)->GetEditWnd(), nullptr);
@@ -301,6 +292,31 @@ TEST_F(GridCellComboTest, TheApplicationHearsTheEditInOrderAndMayRefuseIt) {
     EXPECT_EQ(grid.GetItemText(kRow, kListColumn), kOptions[kPipe]);
     EXPECT_EQ(Editor(), nullptr);
     EXPECT_FALSE(Combo(kRow, kListColumn)->IsEditing());
+}
+
+TEST_F(GridCellComboTest, TheClosedFieldCoversTheCellUpToItsGridLinesAndTheListDropsBelowIt) {
+    constexpr int kTallRow = 40;
+    grid.SetRowHeight(kOtherRow, kTallRow);
+    for (const CCellID at : {CCellID(kRow, kListColumn), CCellID(kRow, kFreeColumn),
+                             CCellID(kOtherRow, kListColumn)}) {
+        const CRect cell = CellRect(at.row, at.col);
+        ui.Click(Grid(), OnArrow(at.row, at.col));
+        ASSERT_NE(Editor(), nullptr);
+        CRect field;
+        Editor()->GetWindowRect(&field);
+        grid.ScreenToClient(&field);
+        // The cell's rectangle holds its grid lines, its last column and row, which stay in view.
+        EXPECT_EQ(field, CRect(cell.left, cell.top, cell.right, cell.bottom))
+            << at.row << "," << at.col;
+        // Every option shows in the open list, right under the field.
+        CRect list;
+        ::GetWindowRect(PopUpList(), &list);
+        grid.ScreenToClient(&list);
+        EXPECT_EQ(list.top, field.bottom);
+        EXPECT_GE(list.Height(), int(std::size(kOptions)) * Editor()->GetItemHeight(0));
+        ui.PressKey(VK_ESCAPE);
+        EXPECT_EQ(Editor(), nullptr);
+    }
 }
 
 TEST_F(GridCellComboTest, TheListIsNeverWiderThanTwoHundredPixels) {

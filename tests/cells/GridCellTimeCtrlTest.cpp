@@ -7,6 +7,7 @@
 #include "grid/GridNotify.h"
 #include "platform/system/SysColors.h"
 #include "platform/system/UserSettings.h"
+#include "platform/testing/CalendarDays.h"
 #include "platform/widgets/DateTimeCtrl.h"
 #include "platform/widgets/MonthCalCtrl.h"
 #include "platform/window/WindowApi.h"
@@ -64,21 +65,6 @@ protected:
     void DoubleClickLeftEdge(int row = kRow) {
         const CRect cell = CellRect(row, kTimeColumn);
         ui.DoubleClick(Grid(), CPoint(cell.left + kArrowInset, cell.CenterPoint().y));
-    }
-    // The point of `day` of the shown month in the open calendar.
-    static CPoint DayPoint(CMonthCalCtrl& calendar, int day) {
-        CRect client;
-        calendar.GetClientRect(&client);
-        for (int y = client.top; y < client.bottom; y += 2) {
-            for (int x = client.left; x < client.right; x += 2) {
-                MCHITTESTINFO hit{sizeof(MCHITTESTINFO), {x, y}, 0, {}};
-                if (calendar.HitTest(&hit) == MCHT_CALENDARDATE && hit.st.wDay == day) {
-                    return CPoint(x, y);
-                }
-            }
-        }
-        ADD_FAILURE() << "day " << day << " not shown";
-        return CPoint(-1, -1);
     }
     // The grid's edit notifications, in the order the application heard them.
     std::vector<UINT> EditCodes() const {
@@ -152,7 +138,7 @@ TEST_F(TimeCellTest, ADayPickedInTheDroppedCalendarIsStoredWhenTheEditEnds) {
     ASSERT_TRUE(::IsWindow(editorWindow));
     EXPECT_EQ(Count(GV_NOTIFY_ENDLABELEDIT), 0);
 
-    ui.Click(calendar->GetSafeHwnd(), DayPoint(*calendar, kPickedDay));
+    ui.Click(calendar->GetSafeHwnd(), CalendarDayPoint(*calendar, kPickedDay));
     ASSERT_TRUE(::IsWindow(editorWindow));
     EXPECT_EQ(editor->GetMonthCalCtrl(), nullptr);
     EXPECT_EQ(::GetFocus(), editorWindow);
@@ -174,7 +160,7 @@ TEST_F(TimeCellTest, AnApplicationClearingTheValueUnderAnOpenPickerGetsThePicker
     ASSERT_NE(editor, nullptr);
     CMonthCalCtrl* calendar = editor->GetMonthCalCtrl();
     ASSERT_NE(calendar, nullptr);
-    ui.Click(calendar->GetSafeHwnd(), DayPoint(*calendar, kPickedDay));
+    ui.Click(calendar->GetSafeHwnd(), CalendarDayPoint(*calendar, kPickedDay));
 
     // The picker holds the cell's time until it ends; a clear from the application must not
     // pull it away under the picker.
@@ -185,6 +171,32 @@ TEST_F(TimeCellTest, AnApplicationClearingTheValueUnderAnOpenPickerGetsThePicker
     ASSERT_NE(Value(), nullptr);
     EXPECT_EQ(Value()->GetDay(), kPickedDay);
     EXPECT_EQ(Text(), "3/20/2024 2:05:09 PM");
+}
+
+TEST_F(TimeCellTest, ADoubleClickOnTheArrowOrBesideItOpensOnePickerThatTheCellKnows) {
+    // The arrow's right edge, and the cell's grid line beside it, which no picker covers.
+    const CRect cell = CellRect(kRow, kTimeColumn);
+    const CPoint arrowEdge(cell.right - 1, cell.top + kArrowInset);
+    const CPoint gridLine(cell.right, cell.top + kArrowInset);
+    for (const CPoint point : {ArrowPoint(), arrowEdge, gridLine}) {
+        ui.Click(Grid(), CellCentre(kOtherRow, kTimeColumn));
+        ui.DoubleClick(Grid(), point);
+        std::vector<HWND> pickers;
+        for (HWND child = ::GetWindow(Grid(), GW_CHILD); child != nullptr;
+             child = ::GetWindow(child, GW_HWNDNEXT)) {
+            if (::GetDlgCtrlID(child) == IDC_INPLACE_CONTROL) {
+                pickers.push_back(child);
+            }
+        }
+        ASSERT_EQ(pickers.size(), 1u) << point.x;
+        EXPECT_TRUE(Cell().IsEditing()) << point.x;
+        ASSERT_NE(Editor(), nullptr) << point.x;
+        EXPECT_EQ(Editor()->GetSafeHwnd(), pickers.front()) << point.x;
+        ui.PressKey(VK_ESCAPE); // closes a dropped calendar, if the first click dropped one
+        ui.PressKey(VK_RETURN);
+        EXPECT_FALSE(Cell().IsEditing()) << point.x;
+        EXPECT_FALSE(::IsWindow(pickers.front())) << point.x;
+    }
 }
 
 TEST_F(TimeCellTest, DigitsAndArrowsEditTheFieldsInTheOrderOfTheRegionalDate) {

@@ -2,24 +2,20 @@
 // writing each format, and the maximised view showing the chart.
 
 #include "FakeSpoolers.h"
+#include "HostedChart.h"
 
 #include "chart/ChartApi.h"
 #include "chart/ChartDialogIds.h"
 #include "chart/ChartPropertyIds.h"
 
-#include "platform/host/Clipboard.h"
-#include "platform/host/GlobalMemory.h"
 #include "platform/testing/ModalResponder.h"
 #include "platform/testing/NotificationRecorder.h"
-#include "platform/testing/UiDriver.h"
-#include "platform/window/Wnd.h"
 
 #include <cairo.h>
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -34,11 +30,6 @@ namespace {
 constexpr int kChartId = 12;
 constexpr COLORREF kFirstColour = RGB(0, 0, 128);
 constexpr COLORREF kSecondColour = RGB(0, 128, 0);
-
-std::string TempPath(const std::string& name) {
-    const char* directory = std::getenv("TMPDIR");
-    return std::string(directory ? directory : "/tmp") + "/chart-dialogs-test-" + name;
-}
 
 std::string Text(HWND chart, int property) {
     char buffer[1024] = {};
@@ -57,21 +48,12 @@ std::vector<int> Ints(HWND chart, int property) {
     return values;
 }
 
-POINT PixelOf(HWND chart, double gx, double gy) {
-    int axis = 0, x = 0, y = 0;
-    EXPECT_EQ(ChartPixelToGraph(chart, &axis, &x, &y, &gx, &gy, true, false, false), 1);
-    return {x, y};
-}
-
-class ChartDialogsTest : public ::testing::Test {
+class ChartDialogsTest : public HostedChartTest {
 protected:
-    void SetUp() override {
-        ASSERT_TRUE(parent.CreateEx(0, nullptr, "host", WS_POPUP | WS_VISIBLE, 0, 0, 600, 400,
-                                    nullptr, nullptr));
-        RECT rect{0, 0, 600, 400};
-        chart = ChartCreate(0, 0, &rect, parent.m_hWnd, kChartId);
-        ASSERT_NE(chart, nullptr);
-        // Two straight curves, y = 10x and y = 5x, x from 0 to 10, each point a dot.
+    ChartDialogsTest() : HostedChartTest(kChartId, 600, 400) {}
+
+    // Two straight curves, y = 10x and y = 5x, x from 0 to 10, each point a dot.
+    void Fill(HWND chart) override {
         ChartSetInt(chart, CurveCount, 2);
         ChartSetInt(chart, PointCount, 11);
         for (int s = 0; s < 2; ++s)
@@ -85,13 +67,7 @@ protected:
         ChartSetArray(chart, CurveNames, "Upper\tLower\t", 2);
         ChartSetString(chart, MainTitle, "Before");
         ChartRedraw(chart);
-        driver.Pump();
     }
-    void TearDown() override { parent.DestroyWindow(); }
-
-    CWnd parent;
-    HWND chart = nullptr;
-    UiDriver driver;
 };
 
 TEST_F(ChartDialogsTest, CustomizeWritesTheChangesRedrawsAndNotifies) {
@@ -232,7 +208,7 @@ TEST_F(ChartDialogsTest, ExportWritesEachFormatAtTheSizeAsked) {
             .Press(IDOK);
         return ChartExportDialog(chart);
     };
-    const std::string base = TempPath("export");
+    const std::string base = ChartTestPath("export");
     ASSERT_EQ(exportAs("PNG picture", base), 1); // the extension comes with the format
     EXPECT_EQ(PngSize(base + ".png").cx, 320);
     EXPECT_EQ(PngSize(base + ".png").cy, 200);
@@ -264,19 +240,6 @@ TEST_F(ChartDialogsTest, ExportWritesEachFormatAtTheSizeAsked) {
         std::remove((base + extension).c_str());
 }
 
-std::string ClipboardBytes(const char* format) {
-    std::string bytes;
-    if (!OpenClipboard(nullptr))
-        return bytes;
-    if (const HANDLE data = GetClipboardData(RegisterClipboardFormat(format))) {
-        const HGLOBAL block = static_cast<HGLOBAL>(data);
-        bytes.assign(static_cast<const char*>(GlobalLock(block)), GlobalSize(block));
-        GlobalUnlock(block);
-    }
-    CloseClipboard();
-    return bytes;
-}
-
 TEST_F(ChartDialogsTest, ExportToTheClipboardOrPrinterAndRefusalsWriteNothing) {
     ModalResponder responder;
     responder.Next()
@@ -306,7 +269,7 @@ TEST_F(ChartDialogsTest, ExportToTheClipboardOrPrinterAndRefusalsWriteNothing) {
 
     // A size of nothing and a missing name are refused with a message each; Cancel then
     // leaves no file behind.
-    const std::string path = TempPath("refused");
+    const std::string path = ChartTestPath("refused");
     responder.Next()
         .Type(IDC_EXPORT_WIDTH, "0")
         .Type(IDC_EXPORT_FILE, path)

@@ -1,80 +1,57 @@
+// The chart window worked as a user and an application would: clicks on points, zoom boxes,
+// chart files, pictures on disk and on the clipboard, calls on a gone chart, and printing.
+
+#include "FakeSpoolers.h"
+#include "HostedChart.h"
+
 #include "chart/ChartApi.h"
 #include "chart/ChartPropertyIds.h"
 
-#include "FakeSpoolers.h"
-
-#include "platform/host/Clipboard.h"
-#include "platform/host/GlobalMemory.h"
-
 #include "platform/testing/NotificationRecorder.h"
-#include "platform/testing/UiDriver.h"
-#include "platform/window/Wnd.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
+
+using namespace chartprop;
 
 namespace {
 
 constexpr int kChartId = 7;
 constexpr COLORREF kCurveColour = RGB(200, 0, 0);
 
-std::string TempPath(const char* name) {
-    const char* directory = std::getenv("TMPDIR");
-    return std::string(directory ? directory : "/tmp") + "/chart-window-test-" + name;
-}
-
 // Points (0, 0) .. (10, 100) on axes fixed to those ranges.
 void FillChart(HWND chart) {
-    ChartSetInt(chart, 2115, 1);
-    ChartSetInt(chart, 2120, 11);
+    ChartSetInt(chart, CurveCount, 1);
+    ChartSetInt(chart, PointCount, 11);
     for (int i = 0; i <= 10; ++i) {
         const double x = i, y = 10.0 * i;
-        ChartSetElement(chart, 3013, i, &x);
-        ChartSetElement(chart, 3014, i, &y);
+        ChartSetElement(chart, XData, i, &x);
+        ChartSetElement(chart, YData, i, &y);
     }
     const int colour = int(kCurveColour);
-    ChartSetElement(chart, 2190, 0, &colour);
+    ChartSetElement(chart, CurveColours, 0, &colour);
     const double low = 0, high = 100, xHigh = 10;
-    ChartSetInt(chart, 3050, 3);
-    ChartSetArray(chart, 3055, &low, 1);
-    ChartSetArray(chart, 3060, &high, 1);
-    ChartSetInt(chart, 3615, 3);
-    ChartSetArray(chart, 3620, &low, 1);
-    ChartSetArray(chart, 3625, &xHigh, 1);
+    ChartSetInt(chart, YRangeMode, RangeBoth);
+    ChartSetArray(chart, YMinimum, &low, 1);
+    ChartSetArray(chart, YMaximum, &high, 1);
+    ChartSetInt(chart, XRangeMode, RangeBoth);
+    ChartSetArray(chart, XMinimum, &low, 1);
+    ChartSetArray(chart, XMaximum, &xHigh, 1);
     ChartRedraw(chart);
 }
 
-POINT PixelOf(HWND chart, double gx, double gy) {
-    int axis = 0, x = 0, y = 0;
-    EXPECT_EQ(ChartPixelToGraph(chart, &axis, &x, &y, &gx, &gy, true, false, false), 1);
-    return {x, y};
-}
-
-class ChartWindowTest : public ::testing::Test {
+class ChartWindowTest : public HostedChartTest {
 protected:
-    void SetUp() override {
-        ASSERT_TRUE(parent.CreateEx(0, nullptr, "host", WS_POPUP | WS_VISIBLE, 0, 0, 640, 480,
-                                    nullptr, nullptr));
-        RECT rect{0, 0, 640, 480};
-        chart = ChartCreate(0, 0, &rect, parent.m_hWnd, kChartId);
-        ASSERT_NE(chart, nullptr);
-        FillChart(chart);
-        driver.Pump();
-    }
-    void TearDown() override { parent.DestroyWindow(); }
+    ChartWindowTest() : HostedChartTest(kChartId, 640, 480) {}
 
+    void Fill(HWND chart) override { FillChart(chart); }
     POINT PixelOf(double gx, double gy) { return ::PixelOf(chart, gx, gy); }
-
-    CWnd parent;
-    HWND chart = nullptr;
-    UiDriver driver;
 };
 
 TEST_F(ChartWindowTest, PaintsItsImageAndReportsClicksOnDataPoints) {
@@ -90,18 +67,18 @@ TEST_F(ChartWindowTest, PaintsItsImageAndReportsClicksOnDataPoints) {
     EXPECT_TRUE(recorder.Commands(CHARTN_ZOOMIN).empty()); // a click is no zoom box
 
     int spot[7] = {};
-    ASSERT_EQ(ChartGetArray(chart, 2610, nullptr), 28);
-    ChartGetArray(chart, 2610, spot);
+    ASSERT_EQ(ChartGetArray(chart, HotSpot, nullptr), 28);
+    ChartGetArray(chart, HotSpot, spot);
     EXPECT_EQ(spot[4], 5);
     EXPECT_EQ(spot[5], 0);
     EXPECT_EQ(spot[6], 4);
     int mouse[2] = {};
-    ChartGetArray(chart, 2637, mouse);
+    ChartGetArray(chart, MousePosition, mouse);
     EXPECT_EQ(mouse[0], point.x);
     EXPECT_EQ(mouse[1], point.y);
 
     driver.Click(chart, PixelOf(4, 90));
-    ChartGetArray(chart, 2610, spot);
+    ChartGetArray(chart, HotSpot, spot);
     EXPECT_EQ(spot[4], 0);
 }
 
@@ -110,14 +87,14 @@ TEST_F(ChartWindowTest, DraggingABoxZoomsAndTheFrameCommandUndoesIt) {
     NotificationRecorder recorder(parent.m_hWnd);
     driver.Drag(chart, PixelOf(2.5, 95), PixelOf(6.5, 55));
     EXPECT_EQ(recorder.Commands(CHARTN_ZOOMIN).size(), 1u);
-    EXPECT_EQ(ChartGetInt(chart, 3283), 1);
+    EXPECT_EQ(ChartGetInt(chart, Zoomed), 1);
     double gx = 0, gy = 0;
     int axis = 0, x = origin.x, y = origin.y;
     ChartPixelToGraph(chart, &axis, &x, &y, &gx, &gy, false, false, false);
     EXPECT_GT(gx, 2.0); // the old origin now lies left of the zoomed range
 
-    SendMessage(chart, WM_COMMAND, 53053, 0);
-    EXPECT_EQ(ChartGetInt(chart, 3283), 0);
+    SendMessage(chart, WM_COMMAND, FrameCommand, 0);
+    EXPECT_EQ(ChartGetInt(chart, Zoomed), 0);
     x = origin.x, y = origin.y;
     ChartPixelToGraph(chart, &axis, &x, &y, &gx, &gy, false, false, false);
     EXPECT_NEAR(gx, 0, 0.1);
@@ -127,7 +104,7 @@ TEST_F(ChartWindowTest, DraggingABoxZoomsAndTheFrameCommandUndoesIt) {
 // each write must leave the chart to be drawn again at that update.
 TEST_F(ChartWindowTest, WritesOfDataAndRubberLineShowAtTheNextUpdate) {
     const double raised = 80;
-    ASSERT_EQ(ChartSetCell(chart, chartprop::YData, 0, 4, &raised), 1);
+    ASSERT_EQ(ChartSetCell(chart, YData, 0, 4, &raised), 1);
     UpdateWindow(chart);
     EXPECT_EQ(driver.Pixel(chart, PixelOf(4, 80)), kCurveColour);
 
@@ -145,15 +122,15 @@ TEST_F(ChartWindowTest, WritesOfDataAndRubberLineShowAtTheNextUpdate) {
     ASSERT_EQ(darkOnTheLine(), 0);
     const double xs[] = {1, 9}, ys[] = {90, 90};
     const int black[] = {0, 0};
-    ChartSetInt(chart, chartprop::RubberLine, 1);
-    ChartSetArray(chart, chartprop::RubberX, xs, 2);
-    ChartSetArray(chart, chartprop::RubberY, ys, 2);
-    ChartSetArray(chart, chartprop::AnnotationColours, black, 2);
+    ChartSetInt(chart, RubberLine, 1);
+    ChartSetArray(chart, RubberX, xs, 2);
+    ChartSetArray(chart, RubberY, ys, 2);
+    ChartSetArray(chart, AnnotationColours, black, 2);
     UpdateWindow(chart);
     EXPECT_GT(darkOnTheLine(), 0);
 
     const std::int64_t zero = 0; // a single element written ends the line
-    ChartSetElement(chart, chartprop::RubberX, 0, &zero);
+    ChartSetElement(chart, RubberX, 0, &zero);
     UpdateWindow(chart);
     EXPECT_EQ(darkOnTheLine(), 0);
 }
@@ -169,29 +146,29 @@ TEST_F(ChartWindowTest, AxisEndsReadAsTheRangeOnShowWhereTheChartChoosesThem) {
         return value;
     };
     // Given ends read as given.
-    EXPECT_EQ(read(chartprop::XMaximum), 10);
-    EXPECT_EQ(read(chartprop::YMaximum), 100);
+    EXPECT_EQ(read(XMaximum), 10);
+    EXPECT_EQ(read(YMaximum), 100);
 
     // Automatic ends read as the range laid out around the data, which follows the data.
-    ChartSetInt(chart, chartprop::XRangeMode, chartprop::RangeAuto);
-    ChartSetInt(chart, chartprop::YRangeMode, chartprop::RangeMinimum);
+    ChartSetInt(chart, XRangeMode, RangeAuto);
+    ChartSetInt(chart, YRangeMode, RangeMinimum);
     const double peak = 250;
-    ChartSetCell(chart, chartprop::YData, 0, 10, &peak);
-    EXPECT_EQ(read(chartprop::YMinimum), 0);
-    EXPECT_GE(read(chartprop::YMaximum), 250);
-    EXPECT_LT(read(chartprop::YMaximum), 500);
-    EXPECT_LE(read(chartprop::XMinimum), 0);
-    EXPECT_GT(read(chartprop::XMinimum), -5);
-    EXPECT_GE(read(chartprop::XMaximum), 10);
-    EXPECT_LT(read(chartprop::XMaximum), 15);
+    ChartSetCell(chart, YData, 0, 10, &peak);
+    EXPECT_EQ(read(YMinimum), 0);
+    EXPECT_GE(read(YMaximum), 250);
+    EXPECT_LT(read(YMaximum), 500);
+    EXPECT_LE(read(XMinimum), 0);
+    EXPECT_GT(read(XMinimum), -5);
+    EXPECT_GE(read(XMaximum), 10);
+    EXPECT_LT(read(XMaximum), 15);
     // The ends read are the ends of the plot area.
-    const POINT low = PixelOf(read(chartprop::XMinimum), read(chartprop::YMinimum));
-    const POINT high = PixelOf(read(chartprop::XMaximum), read(chartprop::YMaximum));
+    const POINT low = PixelOf(read(XMinimum), read(YMinimum));
+    const POINT high = PixelOf(read(XMaximum), read(YMaximum));
     int axis = 0, x = low.x - 1, y = high.y;
     double gx = 0, gy = 0;
     ChartPixelToGraph(chart, &axis, &x, &y, &gx, &gy, false, false, false);
-    EXPECT_LT(gx, read(chartprop::XMinimum));
-    EXPECT_NEAR(gy, read(chartprop::YMaximum), 1);
+    EXPECT_LT(gx, read(XMinimum));
+    EXPECT_NEAR(gy, read(YMaximum), 1);
 }
 
 TEST_F(ChartWindowTest, TwoChartsDraggedAtOnceEachZoomToTheirOwnBox) {
@@ -240,31 +217,31 @@ TEST_F(ChartWindowTest, TwoChartsDraggedAtOnceEachZoomToTheirOwnBox) {
 }
 
 TEST_F(ChartWindowTest, ChartFilesRoundTripAndBadFilesChangeNothing) {
-    ChartSetString(chart, 2105, "Stored");
-    const std::string path = TempPath("good.chart");
+    ChartSetString(chart, MainTitle, "Stored");
+    const std::string path = ChartTestPath("good.chart");
     ASSERT_EQ(ChartStore(chart, path.c_str()), 1);
 
     RECT rect{0, 0, 300, 200};
     HWND copy = ChartCreateFromFile(path.c_str(), parent.m_hWnd, &rect, 8);
     ASSERT_NE(copy, nullptr);
     char title[1024] = {};
-    ChartGetString(copy, 2105, title);
+    ChartGetString(copy, MainTitle, title);
     EXPECT_STREQ(title, "Stored");
-    EXPECT_EQ(ChartGetArray(copy, 3014, nullptr), 11 * 8);
+    EXPECT_EQ(ChartGetArray(copy, YData, nullptr), 11 * 8);
     ChartDestroy(copy);
 
     std::ifstream in(path, std::ios::binary);
     const std::string bytes((std::istreambuf_iterator<char>(in)), {});
-    const std::string truncated = TempPath("truncated.chart");
+    const std::string truncated = ChartTestPath("truncated.chart");
     std::ofstream(truncated, std::ios::binary) << bytes.substr(0, bytes.size() - 5);
-    ChartSetString(chart, 2105, "Unchanged");
+    ChartSetString(chart, MainTitle, "Unchanged");
     EXPECT_EQ(ChartLoad(chart, truncated.c_str()), 0);
     EXPECT_EQ(ChartCreateFromFile(truncated.c_str(), parent.m_hWnd, &rect, 9), nullptr);
-    EXPECT_EQ(ChartLoad(chart, TempPath("missing.chart").c_str()), 0);
-    ChartGetString(chart, 2105, title);
+    EXPECT_EQ(ChartLoad(chart, ChartTestPath("missing.chart").c_str()), 0);
+    ChartGetString(chart, MainTitle, title);
     EXPECT_STREQ(title, "Unchanged");
     ASSERT_EQ(ChartLoad(chart, path.c_str()), 1);
-    ChartGetString(chart, 2105, title);
+    ChartGetString(chart, MainTitle, title);
     EXPECT_STREQ(title, "Stored");
     std::remove(path.c_str());
     std::remove(truncated.c_str());
@@ -272,10 +249,10 @@ TEST_F(ChartWindowTest, ChartFilesRoundTripAndBadFilesChangeNothing) {
 
 TEST_F(ChartWindowTest, WritesBitmapsByExtensionAndAnSvgPicture) {
     int size[] = {300, 200};
-    const std::string png = TempPath("out.png"), bmp = TempPath("out.BMP");
+    const std::string png = ChartTestPath("out.png"), bmp = ChartTestPath("out.BMP");
     ASSERT_EQ(ChartCopyBitmapToFile(chart, size, png.c_str()), 1);
     ASSERT_EQ(ChartCopyBitmapToFile(chart, size, bmp.c_str()), 1);
-    EXPECT_EQ(ChartCopyBitmapToFile(chart, size, TempPath("out.gif").c_str()), 0);
+    EXPECT_EQ(ChartCopyBitmapToFile(chart, size, ChartTestPath("out.gif").c_str()), 0);
     int noSize[] = {0, 200};
     EXPECT_EQ(ChartCopyBitmapToFile(chart, noSize, png.c_str()), 0);
 
@@ -296,20 +273,6 @@ TEST_F(ChartWindowTest, WritesBitmapsByExtensionAndAnSvgPicture) {
     ChartDeleteMetafile(picture);
 }
 
-// What the clipboard holds in a registered format, or "" when it holds nothing there.
-std::string ClipboardBytes(const char* format) {
-    std::string bytes;
-    if (!OpenClipboard(nullptr))
-        return bytes;
-    if (const HANDLE data = GetClipboardData(RegisterClipboardFormat(format))) {
-        const HGLOBAL block = static_cast<HGLOBAL>(data);
-        bytes.assign(static_cast<const char*>(GlobalLock(block)), GlobalSize(block));
-        GlobalUnlock(block);
-    }
-    CloseClipboard();
-    return bytes;
-}
-
 TEST_F(ChartWindowTest, CopiesReplaceTheClipboardWithAPngOrAnSvgPicture) {
     int size[] = {120, 80};
     ASSERT_EQ(ChartCopyBitmapToClipboard(chart, size), 1);
@@ -326,11 +289,11 @@ TEST_F(ChartWindowTest, CopiesReplaceTheClipboardWithAPngOrAnSvgPicture) {
 TEST_F(ChartWindowTest, CallsOnAGoneChartFail) {
     HWND gone = chart;
     ChartDestroy(chart);
-    EXPECT_EQ(ChartGetInt(gone, 2115), 0);
-    EXPECT_EQ(ChartGetArray(gone, 3013, nullptr), -1);
-    EXPECT_EQ(ChartSetInt(gone, 2115, 1), 0);
+    EXPECT_EQ(ChartGetInt(gone, CurveCount), 0);
+    EXPECT_EQ(ChartGetArray(gone, XData, nullptr), -1);
+    EXPECT_EQ(ChartSetInt(gone, CurveCount, 1), 0);
     int size[] = {100, 100};
-    EXPECT_EQ(ChartCopyBitmapToFile(gone, size, TempPath("gone.png").c_str()), 0);
+    EXPECT_EQ(ChartCopyBitmapToFile(gone, size, ChartTestPath("gone.png").c_str()), 0);
 }
 
 } // namespace

@@ -59,17 +59,6 @@ void NumericEdit::Prepare(CEdit& edit, const char* text, int start, int end) {
     edit.SetSel(start, end);
 }
 
-void NumericEdit::PutOnClipboard(const char* text) {
-    ASSERT_TRUE(::OpenClipboard(nullptr));
-    ::EmptyClipboard();
-    const size_t size = std::strlen(text) + 1;
-    HGLOBAL block = ::GlobalAlloc(GMEM_MOVEABLE, size);
-    std::memcpy(::GlobalLock(block), text, size);
-    ::GlobalUnlock(block);
-    ::SetClipboardData(CF_TEXT, block);
-    ::CloseClipboard();
-}
-
 CString NumericEdit::Text(const CWnd& wnd) {
     CString text;
     wnd.GetWindowText(text);

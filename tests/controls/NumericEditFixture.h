@@ -56,7 +56,6 @@ protected:
     void Focus(CEdit& edit) { m_ui.Click(edit.GetSafeHwnd(), kInside); }
     // Moves the focus away from the numeric controls, into the plain window.
     void Leave() { ::SetFocus(m_form.plain); }
-    static void PutOnClipboard(const char* text);
     static CString Text(const CWnd& wnd);
     static std::pair<int, int> Selection(const CEdit& edit);
 

@@ -3,6 +3,7 @@
 
 #include "NumericEditFixture.h"
 
+#include "platform/testing/ClipboardText.h"
 #include "platform/window/WindowApi.h"
 
 #include <cmath>
@@ -74,7 +75,7 @@ TEST_F(NumericEdit, SignsPointsAndExponentsWhereANumberAllowsThem) {
 TEST_F(NumericEdit, PasteTakesWholeNumbersOrNothing) {
     // Into an empty control anything of the accepted characters goes, and reads as far as it
     // can when the focus leaves.
-    PutOnClipboard("1e2e3");
+    PutTextOnClipboard("1e2e3");
     Prepare(m_form.number, "", 0, 0);
     m_ui.PressKey(VK_V, MK_CONTROL);
     EXPECT_EQ(Text(m_form.number), "1e2e3");
@@ -82,12 +83,12 @@ TEST_F(NumericEdit, PasteTakesWholeNumbersOrNothing) {
     EXPECT_EQ(m_form.number.GetValue(), 100.0);
 
     // Into a number, only what keeps its shape.
-    PutOnClipboard(".75");
+    PutTextOnClipboard(".75");
     Prepare(m_form.number, "12", 2, 2);
     m_ui.PressKey(VK_V, MK_CONTROL);
     EXPECT_EQ(Text(m_form.number), "12.75");
     for (const char* refused : {" 1.5", "1.5\n", "1,5", ".5", "-1", "1e2x"}) {
-        PutOnClipboard(refused);
+        PutTextOnClipboard(refused);
         m_form.number.SetSel(5, 5);
         m_recorder->Clear();
         m_ui.PressKey(VK_V, MK_CONTROL);
@@ -96,7 +97,7 @@ TEST_F(NumericEdit, PasteTakesWholeNumbersOrNothing) {
         EXPECT_EQ(m_recorder->Commands(EN_CHANGE).size(), 0u) << refused;
     }
     // No point in an integer, even into an empty control.
-    PutOnClipboard("1.5");
+    PutTextOnClipboard("1.5");
     Prepare(m_form.count, "", 0, 0);
     m_ui.PressKey(VK_V, MK_CONTROL);
     EXPECT_EQ(Text(m_form.count), "");

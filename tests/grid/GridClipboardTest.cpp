@@ -4,10 +4,11 @@
 #include "GridOnScreen.h"
 
 #include "platform/host/Clipboard.h"
-#include "platform/window/DragDrop.h"
 #include "platform/host/GlobalMemory.h"
-#include "platform/window/OleDropTarget.h"
+#include "platform/testing/ClipboardText.h"
+#include "platform/window/DragDrop.h"
 #include "platform/window/Input.h"
+#include "platform/window/OleDropTarget.h"
 
 #include <cstring>
 #include <string>
@@ -29,16 +30,6 @@ std::string ClipboardBytes() {
     return bytes;
 }
 
-void PutOnClipboard(const char* text) {
-    ASSERT_TRUE(OpenClipboard(nullptr));
-    EmptyClipboard();
-    HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, std::strlen(text) + 1);
-    std::memcpy(GlobalLock(block), text, std::strlen(text) + 1);
-    GlobalUnlock(block);
-    SetClipboardData(CF_TEXT, block);
-    CloseClipboard();
-}
-
 class GridClipboardTest : public GridOnScreen {
 protected:
     void SetUp() override {
@@ -55,7 +46,7 @@ protected:
     }
     // Pastes `text` with Control+V at (row, col) and answers the grid's column of texts there.
     void PasteAt(int row, int col, const char* text) {
-        PutOnClipboard(text);
+        PutTextOnClipboard(text);
         ui.Click(Grid(), CellCentre(row, col));
         parent.notifications.clear();
         ui.PressKey('V', MK_CONTROL);

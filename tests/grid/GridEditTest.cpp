@@ -6,6 +6,7 @@
 
 #include "platform/host/Clipboard.h"
 #include "platform/host/GlobalMemory.h"
+#include "platform/testing/ClipboardText.h"
 
 #include <cstring>
 
@@ -162,13 +163,7 @@ TEST_F(GridEditTest, AScrollCommitsTheEditAndAPasteGoesIntoTheOpenEditor) {
     EXPECT_FALSE(grid.IsItemEditing(2, 2));
     grid.SendMessage(WM_VSCROLL, SB_TOP);
 
-    ASSERT_TRUE(OpenClipboard(nullptr));
-    EmptyClipboard();
-    HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, 4);
-    std::memcpy(GlobalLock(block), "ZZZ", 4);
-    GlobalUnlock(block);
-    SetClipboardData(CF_TEXT, block);
-    CloseClipboard();
+    ASSERT_TRUE(PutTextOnClipboard("ZZZ"));
     ui.Click(Grid(), CellCentre(2, 2));
     ui.Click(Grid(), CellCentre(2, 2));
     ASSERT_NE(Editor(), nullptr);

@@ -13,29 +13,6 @@
 
 #include <cstring>
 
-void PutOnClipboard(const char* text) {
-    ASSERT_TRUE(OpenClipboard(nullptr));
-    EmptyClipboard();
-    HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, std::strlen(text) + 1);
-    std::memcpy(GlobalLock(block), text, std::strlen(text) + 1);
-    GlobalUnlock(block);
-    SetClipboardData(CF_TEXT, block);
-    CloseClipboard();
-}
-
-std::string ClipboardText() {
-    std::string text;
-    if (!OpenClipboard(nullptr)) {
-        return text;
-    }
-    if (HANDLE data = GetClipboardData(CF_TEXT)) {
-        text = static_cast<const char*>(GlobalLock(static_cast<HGLOBAL>(data)));
-        GlobalUnlock(static_cast<HGLOBAL>(data));
-    }
-    CloseClipboard();
-    return text;
-}
-
 BOOL CSheetOwner::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
     if (onNotify) {
         onNotify(*reinterpret_cast<const NMHDR*>(lParam));

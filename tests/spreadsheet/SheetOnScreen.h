@@ -15,8 +15,6 @@
 #include <string>
 
 // The clipboard's text, as a user puts it there and as the spreadsheet leaves it.
-void PutOnClipboard(const char* text);
-std::string ClipboardText();
 
 // The spreadsheet's owner, as an application: it may act inside each notification it hears.
 class CSheetOwner : public CWnd {

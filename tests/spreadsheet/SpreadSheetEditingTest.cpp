@@ -14,6 +14,8 @@
 #include "platform/system/DateTime.h"
 #include "platform/system/SystemMetrics.h"
 #include "platform/system/UserSettings.h"
+#include "platform/testing/CalendarDays.h"
+#include "platform/testing/ClipboardText.h"
 #include "platform/testing/ModalResponder.h"
 #include "platform/widgets/ComboBox.h"
 #include "platform/widgets/DateTimeCtrl.h"
@@ -68,21 +70,6 @@ protected:
     }
     const COleDateTime* Date(int row) {
         return reinterpret_cast<const COleDateTime*>(sheet.GetItemData(row, kInspected));
-    }
-    // The open calendar's point for `day` of the month it shows.
-    static CPoint DayPoint(CMonthCalCtrl& calendar, int day) {
-        CRect client;
-        calendar.GetClientRect(&client);
-        for (int y = client.top; y < client.bottom; y += 2) {
-            for (int x = client.left; x < client.right; x += 2) {
-                MCHITTESTINFO hit{sizeof(MCHITTESTINFO), {x, y}, 0, {}};
-                if (calendar.HitTest(&hit) == MCHT_CALENDARDATE && hit.st.wDay == day) {
-                    return CPoint(x, y);
-                }
-            }
-        }
-        ADD_FAILURE() << "day " << day << " not shown";
-        return CPoint(-1, -1);
     }
 };
 
@@ -173,7 +160,7 @@ TEST_F(SpreadSheetEditingTest, ADayPickedInTheCalendarBecomesTheCellsDate) {
     ASSERT_NE(picker, nullptr);
     CMonthCalCtrl* calendar = picker->GetMonthCalCtrl();
     ASSERT_NE(calendar, nullptr);
-    ui.Click(calendar->GetSafeHwnd(), DayPoint(*calendar, 20));
+    ui.Click(calendar->GetSafeHwnd(), CalendarDayPoint(*calendar, 20));
     ui.PressKey(VK_RETURN);
     EXPECT_EQ(OpenEditor(), nullptr);
     ASSERT_NE(Date(kRow), nullptr);
@@ -288,8 +275,8 @@ TEST_F(SpreadSheetEditingTest, ACellRetypedWhileItsEditorIsOpenEndsTheEditFirst)
 
 TEST_F(SpreadSheetEditingTest, APastedBlockGoesThroughEachColumnsCell) {
     sheet.SetItemData(kRow, kSurveyed, 1);
-    PutOnClipboard("C-9\t4.9\t0.6\tSlab\t3/1/2024\tno\tgone\n"
-                   "C-10\t-2\tx\tSteel\t12/24/2025\n");
+    PutTextOnClipboard("C-9\t4.9\t0.6\tSlab\t3/1/2024\tno\tgone\n"
+                       "C-10\t-2\tx\tSteel\t12/24/2025\n");
     Focus(kRow, kName);
     ui.PressKey('V', MK_CONTROL);
 

@@ -5,6 +5,7 @@
 #include "SheetOnScreen.h"
 
 #include "grid/GridNotify.h"
+#include "platform/testing/ClipboardText.h"
 #include "platform/testing/MenuResponder.h"
 #include "platform/window/Menu.h"
 
@@ -49,7 +50,7 @@ TEST_F(SpreadSheetMenuTest, CopyAndPasteFromTheMenuMoveACellsText) {
     CPoint at = CellCentre(kRow, kName);
     sheet.ClientToScreen(&at);
     EXPECT_EQ(CPoint(shown.at), at);
-    EXPECT_EQ(ClipboardText(), "C-2");
+    EXPECT_EQ(TextOnClipboard(), "C-2");
 
     menus.ChooseTitle("Paste");
     RightClickOn(kRow + 2, kBarrels);
@@ -60,7 +61,7 @@ TEST_F(SpreadSheetMenuTest, CopyAndPasteFromTheMenuMoveACellsText) {
 
     menus.ChooseTitle("Cut");
     RightClickOn(kRow + 3, kName);
-    EXPECT_EQ(ClipboardText(), "C-5");
+    EXPECT_EQ(TextOnClipboard(), "C-5");
     EXPECT_EQ(sheet.GetItemText(kRow + 3, kName), "");
     // Each right click on a cell also reached the owner.
     EXPECT_EQ(Count(NM_RCLICK), 4);
@@ -78,14 +79,14 @@ TEST_F(SpreadSheetMenuTest, OnReadOnlyCellsCutAndPasteAreGreyAndCopyWorks) {
 
     // A grey item cannot be chosen: the cell keeps its label. (A click on the label, off the
     // box, selects the cell.)
-    PutOnClipboard("pasted");
+    PutTextOnClipboard("pasted");
     menus.ChooseTitle("Paste");
     RightClickOn(kRow, kSurveyed);
     EXPECT_EQ(sheet.GetItemText(kRow, kSurveyed), "surveyed");
     EXPECT_EQ(menus.Count(), 4);
     menus.ChooseTitle("Copy");
     RightClickOn(kRow, kSurveyed);
-    EXPECT_EQ(ClipboardText(), "surveyed");
+    EXPECT_EQ(TextOnClipboard(), "surveyed");
 }
 
 TEST_F(SpreadSheetMenuTest, OutsideTheCellsNoMenuShowsAndTheOwnerHearsOfTheClick) {

@@ -5,12 +5,13 @@
 // and picks for real.
 
 #include "GalleryPage.h"
+#include "GridPageKit.h"
 
 #include "cells/GridCellCombo.h"
 #include "grid/GridCtrl.h"
 #include "platform/host/Clipboard.h"
 #include "platform/host/GlobalMemory.h"
-#include "platform/system/SystemMetrics.h"
+#include "platform/testing/ClipboardText.h"
 #include "platform/testing/UiDriver.h"
 #include "platform/widgets/ComboBox.h"
 
@@ -32,13 +33,9 @@ void FillTable(CGridCtrl& grid) {
     const char* shapes[] = {"Box", "Pipe", "Arch", "Pipe-arch", "Elliptical"};
     const char* materials[] = {"Concrete", "Corrugated steel", "HDPE", "Masonry"};
     CStringArray shapeOptions;
-    for (const char* shape : shapes) {
-        shapeOptions.Add(shape);
-    }
+    AddStrings(shapeOptions, shapes);
     CStringArray materialOptions;
-    for (const char* material : materials) {
-        materialOptions.Add(material);
-    }
+    AddStrings(materialOptions, materials);
     for (int col = 0; col < kCols; col++) {
         grid.SetItemText(0, col, headings[col]);
     }
@@ -57,68 +54,38 @@ void FillTable(CGridCtrl& grid) {
     }
 }
 
-void PutOnClipboard(const char* text) {
-    if (!OpenClipboard(nullptr)) {
-        return;
-    }
-    EmptyClipboard();
-    HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, std::strlen(text) + 1);
-    std::memcpy(GlobalLock(block), text, std::strlen(text) + 1);
-    GlobalUnlock(block);
-    SetClipboardData(CF_TEXT, block);
-    CloseClipboard();
-}
-
-CPoint Centre(CGridCtrl& grid, int row, int col) {
-    CRect rect;
-    grid.GetCellRect(row, col, &rect);
-    return rect.CenterPoint();
-}
-
-CPoint OnArrow(CGridCtrl& grid, int row, int col) {
-    CRect rect;
-    grid.GetCellRect(row, col, &rect);
-    return CPoint(rect.right - GetSystemMetrics(SM_CXVSCROLL) / 2, rect.top + 3);
-}
-
 void PlayTheUser(ComboCellsPage& page, GalleryContext& context) {
     CGridCtrl& grid = page.grid;
     UiDriver ui;
     const HWND window = grid.GetSafeHwnd();
 
     // Row 2's shape list, opened by its arrow and captured open.
-    ui.Click(window, OnArrow(grid, 2, kShape));
-    auto* editor = static_cast<CComboBox*>(grid.GetDlgItem(IDC_INPLACE_CONTROL));
+    ui.Click(window, StripPoint(grid, 2, kShape, StripEnd::kTop));
+    CComboBox* editor = InPlaceCombo(grid);
     if (editor == nullptr) {
         context.Print("The shape list did not open");
         return;
     }
     context.Capture(page.frame.GetSafeHwnd(), "43-combo-cells-open");
-    CRect list;
-    editor->GetDroppedControlRect(&list);
-    const HWND popUp = WindowFromPoint(list.TopLeft() + CPoint(2, 2));
-    context.Capture(popUp, "43-combo-cells-list");
-    const int rowHeight = editor->GetItemHeight(0);
-    const CPoint archRow(10, 3 * rowHeight + rowHeight / 2); // "Pipe-arch"
-    ui.MouseMove(popUp, archRow);
-    ui.Click(popUp, archRow);
+    context.Capture(DroppedList(*editor), "43-combo-cells-list");
+    PickListItem(ui, *editor, 3); // "Pipe-arch"
 
     // Row 3's shape by the keys, after a double click.
-    ui.DoubleClick(window, Centre(grid, 3, kShape));
+    ui.DoubleClick(window, CellCentre(grid, 3, kShape));
     ui.PressKey(VK_DOWN);
     ui.PressKey(VK_RETURN);
 
     // A material that is no option, typed.
-    ui.Click(window, Centre(grid, 4, kMaterial));
+    ui.Click(window, CellCentre(grid, 4, kMaterial));
     ui.Type("Timber\r");
 
     // A pasted word that is no shape is refused; the material column takes it.
-    PutOnClipboard("Slab");
-    ui.Click(window, Centre(grid, 5, kShape));
+    PutTextOnClipboard("Slab");
+    ui.Click(window, CellCentre(grid, 5, kShape));
     ui.PressKey('V', MK_CONTROL);
-    ui.Click(window, Centre(grid, 5, kMaterial));
+    ui.Click(window, CellCentre(grid, 5, kMaterial));
     ui.PressKey('V', MK_CONTROL);
-    ui.Click(window, Centre(grid, 1, kName));
+    ui.Click(window, CellCentre(grid, 1, kName));
 
     context.Print("Picked: row 2 %s (option %d), row 3 %s; typed: row 4 %s (option %d)",
                   grid.GetItemText(2, kShape).GetString(), int(grid.GetItemData(2, kShape)),
@@ -131,12 +98,8 @@ void PlayTheUser(ComboCellsPage& page, GalleryContext& context) {
 void BuildComboCellsPage(GalleryContext& context) {
     // Windows of the gallery live as long as the program.
     static ComboCellsPage page;
-    page.frame.CreateEx(0, nullptr, "Culverts - option cells", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 80,
-                        80, 460, 240, nullptr, nullptr);
-    CRect client;
-    page.frame.GetClientRect(&client);
     CGridCtrl& grid = page.grid;
-    grid.Create(client, &page.frame, 1);
+    CreateFramedGrid(page.frame, grid, "Culverts - option cells", CRect(80, 80, 540, 320));
     FillTable(grid);
     grid.AutoSizeColumns();
     grid.SetColumnWidth(kShape, 100); // room for the longest shape, which no row starts with

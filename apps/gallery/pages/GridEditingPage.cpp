@@ -4,6 +4,7 @@
 // pastes it lower down. In a window the same grid takes the mouse and the keys for real.
 
 #include "GalleryPage.h"
+#include "GridPageKit.h"
 
 #include "grid/GridCtrl.h"
 #include "platform/testing/UiDriver.h"
@@ -63,19 +64,13 @@ void FillSchedule(CGridCtrl& grid) {
     }
 }
 
-CPoint Centre(CGridCtrl& grid, int row, int col) {
-    CRect rect;
-    grid.GetCellRect(row, col, &rect);
-    return rect.CenterPoint();
-}
-
 // What a user does, through the same input as a real mouse and keyboard; the report says
 // what came of each step.
 void PlayTheUser(CGridCtrl& grid, CScheduleFrame& frame, GalleryContext& context) {
     UiDriver ui;
     const HWND window = grid.GetSafeHwnd();
     // Select a cell and type over it; Tab carries the edit on to the next cell.
-    ui.Click(window, Centre(grid, 2, 1));
+    ui.Click(window, CellCentre(grid, 2, 1));
     ui.Type("24");
     ui.PressKey(VK_TAB);
     ui.Type("300");
@@ -83,35 +78,35 @@ void PlayTheUser(CGridCtrl& grid, CScheduleFrame& frame, GalleryContext& context
     context.Print("Typed: P-02 is now %s m long, %s mm across", grid.GetItemText(2, 1).GetString(),
                   grid.GetItemText(2, 2).GetString());
     // The application refuses the locked column: no editor opens.
-    ui.Click(window, Centre(grid, 3, kLockedCol));
+    ui.Click(window, CellCentre(grid, 3, kLockedCol));
     ui.Type("me");
     context.Print("Locked column: refused %d times, text still \"%s\"", frame.vetoed,
                   grid.GetItemText(3, kLockedCol).GetString());
     // A series: two slopes, selected, and the fill handle dragged down to the last row.
-    ui.Click(window, Centre(grid, 1, 4));
+    ui.Click(window, CellCentre(grid, 1, 4));
     ui.Type("0.5\r");
-    ui.Click(window, Centre(grid, 2, 4));
+    ui.Click(window, CellCentre(grid, 2, 4));
     ui.Type("0.75\r");
-    ui.Drag(window, Centre(grid, 1, 4), Centre(grid, 2, 4));
+    ui.Drag(window, CellCentre(grid, 1, 4), CellCentre(grid, 2, 4));
     CRect handle;
     grid.GetTextRect(2, 4, &handle);
-    ui.Drag(window, CPoint(handle.right - 1, handle.bottom - 1), Centre(grid, kRows - 1, 4));
+    ui.Drag(window, CPoint(handle.right - 1, handle.bottom - 1), CellCentre(grid, kRows - 1, 4));
     CString slopes;
     for (int row = 1; row < kRows; row++) {
         slopes += grid.GetItemText(row, 4) + " ";
     }
     context.Print("Filled slopes: %s", slopes.GetString());
     // Copy two pipes' length and diameter, and paste them for the two not yet measured.
-    ui.Drag(window, Centre(grid, 1, 1), Centre(grid, 2, 2));
+    ui.Drag(window, CellCentre(grid, 1, 1), CellCentre(grid, 2, 2));
     ui.PressKey('C', MK_CONTROL);
-    ui.Click(window, Centre(grid, 8, 1));
+    ui.Click(window, CellCentre(grid, 8, 1));
     ui.PressKey('V', MK_CONTROL);
     context.Print("Pasted: P-08 %s / %s, P-09 %s / %s", grid.GetItemText(8, 1).GetString(),
                   grid.GetItemText(8, 2).GetString(), grid.GetItemText(9, 1).GetString(),
                   grid.GetItemText(9, 2).GetString());
     // Sort by diameter with a click on its heading, and pick a pipe.
-    ui.Click(window, Centre(grid, 0, 2));
-    ui.Click(window, Centre(grid, 4, 3));
+    ui.Click(window, CellCentre(grid, 0, 2));
+    ui.Click(window, CellCentre(grid, 4, 3));
     context.Print("Sorted by column %d, ascending %d; %d changes heard in all",
                   grid.GetSortColumn(), grid.GetSortAscending(), frame.changed);
 }
@@ -128,12 +123,8 @@ void PrintPlace(GalleryContext& context, CGridCtrl& grid, const char* name, CPoi
 void BuildGridEditingPage(GalleryContext& context) {
     // Windows of the gallery live as long as the program.
     static GridEditingPage page;
-    page.frame.CreateEx(0, nullptr, "Pipe schedule - editing", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 40,
-                        40, 620, 260, nullptr, nullptr);
-    CRect client;
-    page.frame.GetClientRect(&client);
     CGridCtrl& grid = page.grid;
-    grid.Create(client, &page.frame, 1);
+    CreateFramedGrid(page.frame, grid, "Pipe schedule - editing", CRect(40, 40, 660, 300));
     grid.SetHeaderSort(TRUE);
     grid.EnableDragAndDrop(TRUE);
     FillSchedule(grid);
@@ -145,9 +136,9 @@ void BuildGridEditingPage(GalleryContext& context) {
 
     CRect divider;
     grid.GetCellRect(0, 1, &divider);
-    PrintPlace(context, grid, "edit-cell", Centre(grid, 6, 3));
+    PrintPlace(context, grid, "edit-cell", CellCentre(grid, 6, 3));
     PrintPlace(context, grid, "divider", CPoint(divider.right + 1, divider.CenterPoint().y));
-    PrintPlace(context, grid, "length-heading", Centre(grid, 0, 1));
+    PrintPlace(context, grid, "length-heading", CellCentre(grid, 0, 1));
     context.Capture(page.frame.GetSafeHwnd(), "41-grid-editing");
 }
 

@@ -3,6 +3,7 @@
 // handle, a sorted column and a hidden one.
 
 #include "GalleryPage.h"
+#include "GridPageKit.h"
 
 #include "grid/GridCtrl.h"
 
@@ -92,12 +93,8 @@ void FillStations(CGridCtrl& grid) {
 void BuildGridScreenPage(GalleryContext& context) {
     // Windows of the gallery live as long as the program.
     static GridScreenPage page;
-    page.frame.CreateEx(0, nullptr, "Channel survey", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 30, 30, 780,
-                        480, nullptr, nullptr);
-    CRect client;
-    page.frame.GetClientRect(&client);
     CGridCtrl& grid = page.grid;
-    grid.Create(client, &page.frame, 1);
+    CreateFramedGrid(page.frame, grid, "Channel survey", CRect(30, 30, 810, 510));
 
     FillHeadings(grid);
     FillStations(grid);
@@ -121,7 +118,7 @@ void BuildGridScreenPage(GalleryContext& context) {
                   "horizontal %d",
                   visible.minRow, visible.maxRow, visible.minCol, visible.maxCol,
                   grid.IsVisibleVScroll(), grid.IsVisibleHScroll());
-    context.Print("Merged heading \"%s\" spans x %ld to %ld; hidden column 5 has width %d",
+    context.Print("Merged heading \"%s\" spans x %d to %d; hidden column 5 has width %d",
                   grid.GetItemText(0, 1).GetString(), block.left, block.right,
                   grid.GetColumnWidth(5));
     const CCellRange selection = grid.GetSelectedCellRange();

@@ -11,13 +11,14 @@
 // (where cells, arrows, list items and days are); the scripted edits; the page.
 
 #include "GalleryPage.h"
+#include "GridPageKit.h"
 
 #include "cells/ColorChooserDlg.h"
-#include "cells/GridCellCheckbox.h"
 #include "cells/GridCellFltXYCrv.h"
 #include "controls/DialogORVA.h"
 #include "platform/system/DateTime.h"
 #include "platform/system/SystemMetrics.h"
+#include "platform/testing/CalendarDays.h"
 #include "platform/testing/ModalResponder.h"
 #include "platform/testing/UiDriver.h"
 #include "platform/widgets/ComboBox.h"
@@ -143,13 +144,9 @@ protected:
 private:
     void SetTypes() {
         CStringArray materials;
-        for (const char* material : kMaterials) {
-            materials.Add(material);
-        }
+        AddStrings(materials, kMaterials);
         CStringArray flowChoices;
-        for (const char* choice : kFlowChoices) {
-            flowChoices.Add(choice);
-        }
+        AddStrings(flowChoices, kFlowChoices);
         sheet.SetColumnType(new EColTypeFLT(kChainage, 1));
         sheet.SetColumnType(new EColTypeFLT(kUpstream, 3));
         sheet.SetColumnType(new EColTypeFLT(kDownstream, 3));
@@ -226,9 +223,7 @@ private:
 // Where the user clicks a cell, scrolled into view first.
 CPoint Centre(CSpreadSheetORVA& sheet, int row, int col) {
     sheet.EnsureVisible(row, col);
-    CRect rect;
-    sheet.GetCellRect(row, col, &rect);
-    return rect.CenterPoint();
+    return CellCentre(sheet, row, col);
 }
 
 CPoint OnArrow(CSpreadSheetORVA& sheet, int row, int col) {
@@ -238,28 +233,10 @@ CPoint OnArrow(CSpreadSheetORVA& sheet, int row, int col) {
     return CPoint(rect.right - kArrowInset, rect.top + kArrowInset);
 }
 
-// The open combo editor's dropped list, the top-level window just under its field.
-HWND DroppedList(CWnd& editor) {
-    CRect field;
-    editor.GetWindowRect(&field);
-    return WindowFromPoint(CPoint(field.left + 5, field.bottom + 5));
-}
-
-// Item `index` of a dropped list, in the list's client area.
-CPoint ListItemPoint(CComboBox& editor, int index) {
-    const int height = editor.GetItemHeight(0);
-    return CPoint(10, index * height + height / 2);
-}
-
 void PickFromList(UiDriver& ui, CSpreadSheetORVA& sheet, int index) {
-    auto* list = static_cast<CComboBox*>(sheet.GetWindow(GW_CHILD));
-    if (list == nullptr) {
-        return;
+    if (CComboBox* list = InPlaceCombo(sheet)) {
+        PickListItem(ui, *list, index);
     }
-    const CPoint item = ListItemPoint(*list, index);
-    const HWND dropped = DroppedList(*list);
-    ui.MouseMove(dropped, item);
-    ui.Click(dropped, item);
 }
 
 // The open date editor's calendar, or null.
@@ -268,24 +245,9 @@ CMonthCalCtrl* DroppedCalendar(CSpreadSheetORVA& sheet) {
     return picker != nullptr ? picker->GetMonthCalCtrl() : nullptr;
 }
 
-// The point of `day` of the month that the calendar shows, in its client area.
-CPoint DayPoint(CMonthCalCtrl& calendar, int day) {
-    CRect client;
-    calendar.GetClientRect(&client);
-    for (int y = client.top; y < client.bottom; y += 2) {
-        for (int x = client.left; x < client.right; x += 2) {
-            MCHITTESTINFO hit{sizeof(MCHITTESTINFO), {x, y}, 0, {}};
-            if (calendar.HitTest(&hit) == MCHT_CALENDARDATE && hit.st.wDay == day) {
-                return CPoint(x, y);
-            }
-        }
-    }
-    return CPoint(-1, -1);
-}
-
 void PickDay(UiDriver& ui, CSpreadSheetORVA& sheet, int day) {
     if (CMonthCalCtrl* calendar = DroppedCalendar(sheet)) {
-        ui.Click(calendar->GetSafeHwnd(), DayPoint(*calendar, day));
+        ui.Click(calendar->GetSafeHwnd(), CalendarDayPoint(*calendar, day));
         ui.PressKey(VK_RETURN);
     }
 }
@@ -306,21 +268,19 @@ void ReportPlaces(CulvertDialog& dialog, GalleryContext& context) {
     const HWND window = sheet.GetSafeHwnd();
     report("diameter-cell", window, Centre(sheet, row, kDiameter));
     report("details-button", window, Centre(sheet, row - 1, kDetails));
-    CRect box;
-    sheet.GetCellRect(row, kSurveyed, &box);
-    report("surveyed-box", window, CGridCellCheckbox::BoxRect(box).CenterPoint());
+    report("surveyed-box", window, CheckBoxCentre(sheet, row, kSurveyed));
 
     UiDriver ui;
     report("material-arrow", window, OnArrow(sheet, row, kMaterial));
     ui.Click(window, OnArrow(sheet, row, kMaterial));
-    if (auto* list = static_cast<CComboBox*>(sheet.GetWindow(GW_CHILD))) {
+    if (CComboBox* list = InPlaceCombo(sheet)) {
         report("material-hdpe", DroppedList(*list), ListItemPoint(*list, 2));
         ui.PressKey(VK_ESCAPE);
     }
     report("inspected-arrow", window, OnArrow(sheet, row, kInspected));
     ui.Click(window, OnArrow(sheet, row, kInspected));
     if (CMonthCalCtrl* calendar = DroppedCalendar(sheet)) {
-        report("inspected-day-28", calendar->GetSafeHwnd(), DayPoint(*calendar, 28));
+        report("inspected-day-28", calendar->GetSafeHwnd(), CalendarDayPoint(*calendar, 28));
     }
     ui.Click(window, Centre(sheet, 1, kCulvert));
 }
@@ -364,10 +324,8 @@ void PlayTheUser(CulvertDialog& dialog, GalleryContext& context) {
         "picked: material %s, inspected %s, flow %s", sheet.GetItemText(2, kMaterial).GetString(),
         sheet.GetItemText(4, kInspected).GetString(), sheet.GetItemText(3, kFlow).GetString());
     // A box ticked by a click, another by space; a colour from the chooser; the buttons.
-    CRect box;
     sheet.EnsureVisible(2, kSurveyed);
-    sheet.GetCellRect(2, kSurveyed, &box);
-    ui.Click(window, CGridCellCheckbox::BoxRect(box).CenterPoint());
+    ui.Click(window, CheckBoxCentre(sheet, 2, kSurveyed));
     ui.Click(window, Centre(sheet, 4, kSurveyed));
     ui.Type(" ");
     ModalResponder modal;

@@ -4,6 +4,7 @@
 // the mouse and the keys for real.
 
 #include "GalleryPage.h"
+#include "GridPageKit.h"
 
 #include "cells/ColorChooserDlg.h"
 #include "cells/GridCellButton.h"
@@ -73,31 +74,23 @@ void FillTable(CGridCtrl& grid) {
     }
 }
 
-CPoint Centre(CGridCtrl& grid, int row, int col) {
-    CRect rect;
-    grid.GetCellRect(row, col, &rect);
-    return rect.CenterPoint();
-}
-
 void PlayTheUser(TypedCellsPage& page, GalleryContext& context) {
     CGridCtrl& grid = page.grid;
     UiDriver ui;
     const HWND window = grid.GetSafeHwnd();
     // Numbers typed in come out in each column's own form.
-    ui.Click(window, Centre(grid, 2, kBarrels));
+    ui.Click(window, CellCentre(grid, 2, kBarrels));
     ui.Type("3.7\r");
-    ui.Click(window, Centre(grid, 2, kSpan));
+    ui.Click(window, CellCentre(grid, 2, kSpan));
     ui.Type("1.5\r");
-    ui.Click(window, Centre(grid, 2, kSlope));
+    ui.Click(window, CellCentre(grid, 2, kSlope));
     ui.Type("1/8\r");
     context.Print("Typed 3.7, 1.5 and 1/8: barrels %s, span %s, slope %s",
                   grid.GetItemText(2, kBarrels).GetString(), grid.GetItemText(2, kSpan).GetString(),
                   grid.GetItemText(2, kSlope).GetString());
     // A tick in the box of row 2, and a press of row 3's button.
-    CRect box;
-    grid.GetCellRect(2, kInspected, &box);
-    ui.Click(window, CGridCellCheckbox::BoxRect(box).CenterPoint());
-    ui.Click(window, Centre(grid, 3, kDetails));
+    ui.Click(window, CheckBoxCentre(grid, 2, kInspected));
+    ui.Click(window, CellCentre(grid, 3, kDetails));
     context.Print("Row 2 inspected: %d; button presses heard: %d",
                   int(grid.GetItemData(2, kInspected)), page.frame.buttonPresses);
     // A colour from the chooser, which is captured while it is open.
@@ -109,8 +102,8 @@ void PlayTheUser(TypedCellsPage& page, GalleryContext& context) {
             context.Capture(chooser.GetSafeHwnd(), "42-colour-chooser");
         })
         .Press(IDOK);
-    ui.DoubleClick(window, Centre(grid, 4, kColour));
-    ui.Click(window, Centre(grid, 5, kName));
+    ui.DoubleClick(window, CellCentre(grid, 4, kColour));
+    ui.Click(window, CellCentre(grid, 5, kName));
     const COLORREF chosen = grid.GetItemBkColour(4, kColour);
     context.Print("Row 4 colour: %d,%d,%d", GetRValue(chosen), GetGValue(chosen),
                   GetBValue(chosen));
@@ -119,12 +112,8 @@ void PlayTheUser(TypedCellsPage& page, GalleryContext& context) {
 void BuildTypedCellsPage(GalleryContext& context) {
     // Windows of the gallery live as long as the program.
     static TypedCellsPage page;
-    page.frame.CreateEx(0, nullptr, "Culverts - typed cells", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 60,
-                        60, 560, 200, nullptr, nullptr);
-    CRect client;
-    page.frame.GetClientRect(&client);
     CGridCtrl& grid = page.grid;
-    grid.Create(client, &page.frame, 1);
+    CreateFramedGrid(page.frame, grid, "Culverts - typed cells", CRect(60, 60, 620, 260));
     FillTable(grid);
     grid.AutoSizeColumns();
     grid.SetColumnWidth(kInspected, 80);

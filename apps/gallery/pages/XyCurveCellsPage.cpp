@@ -5,11 +5,11 @@
 // button (captured pressed). In a window the list, the button and the editor work for real.
 
 #include "GalleryPage.h"
+#include "GridPageKit.h"
 
 #include "cells/GridCellFltXYCrv.h"
 #include "cells/InPlaceButton.h"
 #include "grid/GridCtrl.h"
-#include "platform/system/SystemMetrics.h"
 #include "platform/testing/UiDriver.h"
 #include "platform/widgets/ComboBox.h"
 
@@ -110,22 +110,13 @@ void FillTable(CGridCtrl& grid) {
     GiveCurve(grid, 6, kTailwater, kDesignHydrograph);
 }
 
-CPoint Centre(CGridCtrl& grid, int row, int col) {
-    CRect rect;
-    grid.GetCellRect(row, col, &rect);
-    return rect.CenterPoint();
-}
-
+// The curve cell's "..." button is the upper half of its strip, the list's arrow the lower.
 CPoint OnButton(CGridCtrl& grid, int row, int col) {
-    CRect rect;
-    grid.GetCellRect(row, col, &rect);
-    return CPoint(rect.right - GetSystemMetrics(SM_CXVSCROLL) / 2, rect.top + 3);
+    return StripPoint(grid, row, col, StripEnd::kTop);
 }
 
 CPoint OnArrow(CGridCtrl& grid, int row, int col) {
-    CRect rect;
-    grid.GetCellRect(row, col, &rect);
-    return CPoint(rect.right - GetSystemMetrics(SM_CXVSCROLL) / 2, rect.bottom - 3);
+    return StripPoint(grid, row, col, StripEnd::kBottom);
 }
 
 const char* ChoiceName(int choice) {
@@ -145,33 +136,27 @@ void PlayTheUser(XyCurveCellsPage& page, GalleryContext& context) {
     const HWND window = grid.GetSafeHwnd();
 
     // Q2's inflow, typed in place.
-    ui.Click(window, Centre(grid, 1, kInflow));
+    ui.Click(window, CellCentre(grid, 1, kInflow));
     ui.Type("18.750");
     context.Capture(page.frame.GetSafeHwnd(), "44-xy-cells-typing");
     ui.PressKey(VK_RETURN);
 
     // Q10's inflow becomes a transient curve, picked from its list.
     ui.Click(window, OnArrow(grid, 2, kInflow));
-    auto* list = static_cast<CComboBox*>(grid.GetDlgItem(IDC_INPLACE_CONTROL));
+    CComboBox* list = InPlaceCombo(grid);
     if (list == nullptr) {
         context.Print("The list of choices did not open");
         return;
     }
     context.Capture(page.frame.GetSafeHwnd(), "44-xy-cells-open");
-    CRect dropped;
-    list->GetDroppedControlRect(&dropped);
-    const HWND popUp = WindowFromPoint(dropped.TopLeft() + CPoint(2, 2));
-    context.Capture(popUp, "44-xy-cells-list");
-    const int itemHeight = list->GetItemHeight(0);
-    const CPoint transient(10, CGridCellFltXYCrv::CHOICE_TRANSIENT * itemHeight + itemHeight / 2);
-    ui.MouseMove(popUp, transient);
-    ui.Click(popUp, transient);
+    context.Capture(DroppedList(*list), "44-xy-cells-list");
+    PickListItem(ui, *list, CGridCellFltXYCrv::CHOICE_TRANSIENT);
 
     // The design case's curve button, held down, then released over it.
     ui.MouseDown(window, OnButton(grid, 3, kInflow));
     context.Capture(page.frame.GetSafeHwnd(), "44-xy-cells-button");
     ui.MouseUp(window, OnButton(grid, 3, kInflow));
-    ui.Click(window, Centre(grid, 4, kTailwater));
+    ui.Click(window, CellCentre(grid, 4, kTailwater));
 
     for (int row = 1; row <= 3; row++) {
         CGridCellFltXYCrv* cell = Curve(grid, row, kInflow);
@@ -190,12 +175,8 @@ void PlayTheUser(XyCurveCellsPage& page, GalleryContext& context) {
 void BuildXyCurveCellsPage(GalleryContext& context) {
     // Windows of the gallery live as long as the program.
     static XyCurveCellsPage page;
-    page.frame.CreateEx(0, nullptr, "Culvert load cases - curve cells",
-                        WS_OVERLAPPEDWINDOW | WS_VISIBLE, 80, 80, 420, 220, nullptr, nullptr);
-    CRect client;
-    page.frame.GetClientRect(&client);
     CGridCtrl& grid = page.grid;
-    grid.Create(client, &page.frame, 1);
+    CreateFramedGrid(page.frame, grid, "Culvert load cases - curve cells", CRect(80, 80, 500, 300));
     page.frame.grid = &grid;
     FillTable(grid);
     grid.AutoSizeColumns();

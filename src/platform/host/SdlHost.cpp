@@ -110,6 +110,7 @@ SdlHost::SdlHost() : m_start(SDL_GetTicks64()) {}
 
 SdlHost::~SdlHost() {
     m_windows.clear();
+    m_retired.clear();
     for (auto& [id, cursor] : m_cursors)
         SDL_FreeCursor(cursor);
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
@@ -178,7 +179,14 @@ void SdlHost::MoveWindowSurface(HWND window, const RECT& screenRect) {
 }
 
 void SdlHost::DestroyWindowSurface(HWND window) {
-    m_windows.erase(window);
+    const auto it = m_windows.find(window);
+    if (it == m_windows.end())
+        return;
+    if (it->second->window && SDL_GetMouseState(nullptr, nullptr) != 0) {
+        SDL_HideWindow(it->second->window);
+        m_retired.push_back(std::move(it->second));
+    }
+    m_windows.erase(it);
 }
 
 void SdlHost::ShowWindowSurface(HWND window, bool show) {
@@ -319,11 +327,22 @@ bool SdlHost::WaitForEvents(std::optional<DWORD> deadline) {
         while (SDL_PollEvent(&event))
             Deliver(event);
     }
+    if (!m_retired.empty() && SDL_GetMouseState(nullptr, nullptr) == 0)
+        m_retired.clear();
     // The focus going from one of our windows to another is no loss for the application.
     if (m_focusLost && !SDL_GetKeyboardFocus())
         InjectActivation(nullptr, false);
     m_focusLost = false;
     return true;
+}
+
+std::optional<POINT> SdlHost::ScreenPointIn(std::uint32_t id, int x, int y) const {
+    if (const HWND hwnd = FromSdlId(id))
+        return ToScreen(hwnd, x, y);
+    for (const auto& w : m_retired)
+        if (w->window && SDL_GetWindowID(w->window) == id)
+            return POINT{w->screenRect.left + x, w->screenRect.top + y};
+    return std::nullopt;
 }
 
 POINT SdlHost::ToScreen(HWND hwnd, int x, int y) const {
@@ -335,18 +354,20 @@ POINT SdlHost::ToScreen(HWND hwnd, int x, int y) const {
 void SdlHost::Deliver(const SDL_Event& event) {
     switch (event.type) {
     case SDL_MOUSEMOTION:
-        if (HWND hwnd = FromSdlId(event.motion.windowID))
-            InjectMouseMove(ToScreen(hwnd, event.motion.x, event.motion.y));
+        if (const auto screen =
+                ScreenPointIn(event.motion.windowID, event.motion.x, event.motion.y))
+            InjectMouseMove(*screen);
         break;
     case SDL_MOUSEBUTTONDOWN:
     case SDL_MOUSEBUTTONUP: {
-        const HWND hwnd = FromSdlId(event.button.windowID);
+        // A release can come from a window that went while the button was held (a pop-up that
+        // the press closed): it still ends the press.
+        const auto screen = ScreenPointIn(event.button.windowID, event.button.x, event.button.y);
         const UINT button = ButtonKey(event.button.button);
-        if (!hwnd || !button)
+        if (!screen || !button)
             break;
         const bool down = event.type == SDL_MOUSEBUTTONDOWN;
-        InjectMouseButton(button, down, ToScreen(hwnd, event.button.x, event.button.y),
-                          down ? std::max<int>(event.button.clicks, 1) : 1);
+        InjectMouseButton(button, down, *screen, down ? std::max<int>(event.button.clicks, 1) : 1);
         break;
     }
     case SDL_MOUSEWHEEL: {

@@ -25,7 +25,8 @@ public:
 
     const char* Name() const override { return "sdl"; }
 
-    Surface* CreateWindowSurface(HWND window, const RECT& screenRect, const SurfaceKind& kind) override;
+    Surface* CreateWindowSurface(HWND window, const RECT& screenRect,
+                                 const SurfaceKind& kind) override;
     Surface* GetWindowSurface(HWND window) override;
     void MoveWindowSurface(HWND window, const RECT& screenRect) override;
     void DestroyWindowSurface(HWND window) override;
@@ -62,12 +63,18 @@ private:
 
     Window* Find(HWND window);
     HWND FromSdlId(std::uint32_t id) const;
+    // The screen point of a point in an SDL window, ours or one kept after its window went.
+    std::optional<POINT> ScreenPointIn(std::uint32_t id, int x, int y) const;
     void Render(Window& w);
     void Deliver(const SDL_Event& event);
     void DeliverWindowEvent(HWND hwnd, const SDL_Event& event);
     POINT ToScreen(HWND hwnd, int x, int y) const;
 
     std::map<HWND, std::unique_ptr<Window>> m_windows;
+    // The display windows of windows that went while a mouse button was held, kept hidden until
+    // no button is: the display may have sent the release to one already, and SDL drops the
+    // events of a window it no longer knows, and would then take the next press for no change.
+    std::vector<std::unique_ptr<Window>> m_retired;
     std::map<UINT_PTR, SDL_Cursor*> m_cursors;
     std::uint64_t m_start;
     bool m_focusLost = false; // one of the windows lost the focus in the events being delivered

@@ -4,12 +4,12 @@
 #include "platform/window/Input.h"
 
 #include "platform/host/Host.h"
-#include "platform/window/OleDropTarget.h"
 #include "platform/window/InputState.h"
 #include "platform/window/KeyboardLayout.h"
 #include "platform/window/Menu.h"
 #include "platform/window/MenuTracker.h"
 #include "platform/window/NonClient.h"
+#include "platform/window/OleDropTarget.h"
 #include "platform/window/ScrollBarTracking.h"
 #include "platform/window/WindowRecord.h"
 
@@ -51,18 +51,39 @@ CPoint ClipToCursorArea(CPoint p) {
     return p;
 }
 
-void PostMouse(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, CPoint screen) {
-    PostInput(MSG{hwnd, message, wParam, lParam, GetHost().Now(), screen});
+// The mouse's input waits unrouted, with the keys held as it came and its click count, until
+// its turn: a handler of the input before it may set the capture or lay a window under it. The
+// wheel waits the same way, with the parameters of its message made as it came.
+void QueueMouse(UINT message, CPoint screen, int clickCount) {
+    PostInput(MSG{nullptr, message, MouseKeyFlags(), LPARAM(clickCount), GetHost().Now(), screen});
 }
+} // namespace
 
 // A mouse message for the window under the cursor, or for the capture.
-void RouteMouse(UINT message, CPoint screen, int clickCount) {
+void wm::RouteQueuedMouse(const MSG& raw) {
+    UINT message = raw.message;
+    const CPoint screen = raw.pt;
+    const int clickCount = int(raw.lParam);
+    const auto post = [&raw](HWND hwnd, UINT routed, WPARAM wParam, LPARAM lParam) {
+        PostInput(MSG{hwnd, routed, wParam, lParam, raw.time, raw.pt});
+    };
+    if (message == WM_MOUSEWHEEL) {
+        // The wheel turns what holds the mouse, or what is under it, or what has the focus.
+        HWND target = GetCapture();
+        if (!target)
+            target = WindowFromPoint(screen);
+        if (!target)
+            target = GetFocus();
+        if (target && IsWindowEnabled(target))
+            post(target, message, raw.wParam, raw.lParam);
+        return;
+    }
     if (TrackScrollBarMouse(message, screen) || TrackSizeMoveMouse(message, screen))
         return;
     if (HWND capture = GetCapture()) {
         CPoint client = screen;
         ScreenToClient(capture, &client);
-        PostMouse(capture, message, MouseKeyFlags(), PackPoint(client), screen);
+        post(capture, message, raw.wParam, PackPoint(client));
         return;
     }
     const HWND target = WindowFromPoint(screen);
@@ -96,12 +117,13 @@ void RouteMouse(UINT message, CPoint screen, int clickCount) {
     if (hit == HTCLIENT) {
         CPoint client = screen;
         ScreenToClient(target, &client);
-        PostMouse(target, message, MouseKeyFlags(), PackPoint(client), screen);
+        post(target, message, raw.wParam, PackPoint(client));
     } else if (hit != HTNOWHERE && hit != HTTRANSPARENT && hit != HTERROR) {
-        PostMouse(target, message - WM_MOUSEMOVE + WM_NCMOUSEMOVE, WPARAM(hit), PackPoint(screen),
-                  screen);
+        post(target, message - WM_MOUSEMOVE + WM_NCMOUSEMOVE, WPARAM(hit), PackPoint(screen));
     }
 }
+
+namespace {
 
 UINT ButtonMessage(UINT button, bool down) {
     switch (button) {
@@ -134,7 +156,7 @@ HWND KeyboardTarget() {
 void InjectMouseMove(POINT screen) {
     const CPoint p = ClipToCursorArea(screen);
     Input().cursorPos = p;
-    RouteMouse(WM_MOUSEMOVE, p, 1);
+    QueueMouse(WM_MOUSEMOVE, p, 1);
 }
 
 void InjectMouseButton(UINT button, bool down, POINT screen, int clickCount) {
@@ -143,21 +165,14 @@ void InjectMouseButton(UINT button, bool down, POINT screen, int clickCount) {
     const CPoint p = ClipToCursorArea(screen);
     Input().cursorPos = p;
     SetKey(button, down);
-    RouteMouse(ButtonMessage(button, down), p, clickCount);
+    QueueMouse(ButtonMessage(button, down), p, clickCount);
 }
 
 void InjectMouseWheel(POINT screen, int delta) {
     const CPoint p = ClipToCursorArea(screen);
     Input().cursorPos = p;
-    HWND target = GetCapture();
-    if (!target)
-        target = WindowFromPoint(p);
-    if (!target)
-        target = GetFocus();
-    if (!target || !IsWindowEnabled(target))
-        return;
     const WPARAM wParam = MAKEWPARAM(WORD(MouseKeyFlags()), WORD(short(delta)));
-    PostMouse(target, WM_MOUSEWHEEL, wParam, PackPoint(p), p);
+    PostInput(MSG{nullptr, WM_MOUSEWHEEL, wParam, PackPoint(p), GetHost().Now(), p});
 }
 
 void InjectKey(UINT vk, bool down) {

@@ -3,7 +3,8 @@
 // The user's input, delivered to the windows as the framework would: hosts call these for the
 // events of a display, the UI driver calls them for tests. Points are in screen coordinates.
 // Mouse and key messages wait in the input queue behind posted messages; nothing is
-// dispatched until the messages are pumped.
+// dispatched until the messages are pumped. The mouse's input finds its window (the capture,
+// or the window under it) only when its turn comes, after the input before it was handled.
 
 #include "platform/base/Export.h"
 #include "platform/base/WinTypes.h"

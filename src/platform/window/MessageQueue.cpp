@@ -1,7 +1,8 @@
-// Sending, posting and the pump. The pump takes, in this order: posted messages, then input,
-// then WM_QUIT, then WM_PAINT for windows that need painting, then WM_TIMER for due timers, so
-// that a posted message always overtakes the paint it causes, and typed characters made by
-// TranslateMessage overtake the next key.
+// Sending, posting and the pump. The pump takes, in this order: posted messages, then input
+// (the mouse's finds its window only when its turn comes), then WM_QUIT, then WM_PAINT for
+// windows that need painting, then WM_TIMER for due timers, so that a posted message always
+// overtakes the paint it causes, and typed characters made by TranslateMessage overtake the
+// next key.
 
 #include "platform/window/WindowRecord.h"
 
@@ -58,6 +59,31 @@ bool TakeFrom(std::deque<MSG>& queue, MSG* msg, HWND hwnd, UINT lo, UINT hi, boo
         if (remove)
             queue.erase(it);
         return true;
+    }
+    return false;
+}
+
+// Takes the first input that matches, routing the mouse's input on the way as its turn comes,
+// so that a press is handled before the release behind it finds its window.
+bool TakeInput(MSG* msg, HWND hwnd, UINT lo, UINT hi, bool remove) {
+    std::deque<MSG>& input = Q().input;
+    for (size_t i = 0; i < input.size();) {
+        if (input[i].hwnd == nullptr) {
+            // What routing posts takes the place of the unrouted input, before what follows.
+            const MSG raw = input[i];
+            std::deque<MSG> later(input.begin() + std::ptrdiff_t(i) + 1, input.end());
+            input.erase(input.begin() + std::ptrdiff_t(i), input.end());
+            RouteQueuedMouse(raw);
+            input.insert(input.end(), later.begin(), later.end());
+            continue;
+        }
+        if (Matches(input[i], hwnd, lo, hi)) {
+            *msg = input[i];
+            if (remove)
+                input.erase(input.begin() + std::ptrdiff_t(i));
+            return true;
+        }
+        ++i;
     }
     return false;
 }
@@ -131,8 +157,8 @@ BOOL PeekMessage(MSG* msg, HWND hwnd, UINT lo, UINT hi, UINT removeFlags) {
         return FALSE;
     const bool remove = (removeFlags & PM_REMOVE) != 0;
     Queues& q = Q();
-    bool got = TakeFrom(q.posted, msg, hwnd, lo, hi, remove) ||
-               TakeFrom(q.input, msg, hwnd, lo, hi, remove);
+    bool got =
+        TakeFrom(q.posted, msg, hwnd, lo, hi, remove) || TakeInput(msg, hwnd, lo, hi, remove);
     if (!got && q.quitCode && !hwnd) {
         *msg = Make(nullptr, WM_QUIT, WPARAM(*q.quitCode), 0);
         if (remove)

@@ -116,6 +116,10 @@ void InvalidateClient(WindowRecord& w, const CRect& clientRect, bool erase);
 HWND NextWindowToPaint();
 // Input from the host waits behind posted messages, as the framework's input queue does.
 void PostInput(const MSG& msg);
+// Mouse input waits with no window (the point in `pt`; the keys held in `wParam`, and the click
+// count in `lParam`, or for the wheel its message's own parameters) until its turn comes; then
+// this posts what it means for the windows as they are by then.
+void RouteQueuedMouse(const MSG& raw);
 // Binds the CWnd whose Create is running, if any, to a window being created, before the
 // window's first message.
 void HookCreatingWindow(WindowRecord& w);

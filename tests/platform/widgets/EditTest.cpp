@@ -2,6 +2,7 @@
 
 #include "platform/gdi/DC.h"
 #include "platform/system/SysColors.h"
+#include "platform/testing/ClipboardText.h"
 #include "platform/widgets/Edit.h"
 
 #include <cctype>
@@ -84,7 +85,7 @@ TEST_F(EditTest, PasteReplacesTheSelectionAndUndoBringsItBack) {
     Make();
     edit.SetWindowText("hello world");
     Focus();
-    SetClipboard("XY");
+    PutTextOnClipboard("XY");
     edit.SetSel(2, 5);
     ui.PressKey('V', MK_CONTROL);
     EXPECT_EQ(TextOf(edit), "heXY world");
@@ -97,11 +98,11 @@ TEST_F(EditTest, PasteReplacesTheSelectionAndUndoBringsItBack) {
 
     edit.SetSel(0, 4);
     ui.PressKey('X', MK_CONTROL);
-    EXPECT_EQ(Clipboard(), "heXY");
+    EXPECT_EQ(TextOnClipboard(), "heXY");
     EXPECT_EQ(TextOf(edit), " world");
     edit.SetSel(0, 1);
     ui.PressKey('C', MK_CONTROL);
-    EXPECT_EQ(Clipboard(), " ");
+    EXPECT_EQ(TextOnClipboard(), " ");
     EXPECT_EQ(TextOf(edit), " world");
 }
 
@@ -114,7 +115,7 @@ TEST_F(EditTest, TypedWordsUndoAsOneStepAndAPasteOfManyLinesKeepsTheFirstInASing
     EXPECT_TRUE(edit.CanUndo());
     edit.Undo();
     EXPECT_EQ(TextOf(edit), "start");
-    SetClipboard("first\r\nsecond");
+    PutTextOnClipboard("first\r\nsecond");
     edit.Paste();
     EXPECT_EQ(TextOf(edit), "startfirst");
 }
@@ -146,7 +147,7 @@ TEST_F(EditTest, LimitTextCutsInsertionsShortAndSaysSo) {
     ui.Type("abcdefg");
     EXPECT_EQ(TextOf(edit), "abcde");
     EXPECT_EQ(recorder->Commands(EN_MAXTEXT).size(), 2u); // "f" and "g" were refused
-    SetClipboard("12345");
+    PutTextOnClipboard("12345");
     edit.SetSel(1, 3);
     edit.Paste();
     EXPECT_EQ(TextOf(edit), "a12de");
@@ -233,7 +234,7 @@ TEST_F(EditTest, AReadOnlyEditRefusesChangesButCopies) {
     edit.Paste();
     ui.PressKey('C', MK_CONTROL);
     EXPECT_EQ(TextOf(edit), "fixed");
-    EXPECT_EQ(Clipboard(), "fixed");
+    EXPECT_EQ(TextOnClipboard(), "fixed");
     EXPECT_TRUE(CommandsFrom(kEditId).empty());
 }
 
@@ -385,7 +386,7 @@ TEST_F(EditTest, AStormOfInputKeepsTheTextWithinItsLimitAndTheSelectionWithinThe
     Make(WS_VISIBLE | ES_AUTOHSCROLL, kNarrowRect);
     Focus();
     edit.LimitText(kLimit);
-    SetClipboard("pasted text");
+    PutTextOnClipboard("pasted text");
     std::mt19937 random(12345);
     const UINT keys[] = {VK_LEFT, VK_RIGHT, VK_HOME, VK_END, VK_BACK, VK_DELETE, VK_UP, VK_DOWN};
     const UINT modifiers[] = {0, MK_SHIFT, MK_CONTROL, MK_SHIFT | MK_CONTROL};

@@ -32,28 +32,6 @@ std::vector<UINT> WidgetTest::CommandsFrom(UINT id) const {
     return codes;
 }
 
-void WidgetTest::SetClipboard(const char* text) {
-    ASSERT_TRUE(OpenClipboard(nullptr));
-    EmptyClipboard();
-    HGLOBAL memory = GlobalAlloc(0, std::strlen(text) + 1);
-    std::memcpy(GlobalLock(memory), text, std::strlen(text) + 1);
-    GlobalUnlock(memory);
-    SetClipboardData(CF_TEXT, memory);
-    CloseClipboard();
-}
-
-std::string WidgetTest::Clipboard() {
-    std::string text;
-    if (!OpenClipboard(nullptr))
-        return text;
-    if (HANDLE data = GetClipboardData(CF_TEXT)) {
-        text = static_cast<const char*>(GlobalLock(static_cast<HGLOBAL>(data)));
-        GlobalUnlock(static_cast<HGLOBAL>(data));
-    }
-    CloseClipboard();
-    return text;
-}
-
 std::string WidgetTest::TextOf(const CWnd& wnd) {
     CString text;
     wnd.GetWindowText(text);

@@ -25,8 +25,6 @@ protected:
     // The notification codes that control `id` sent by WM_COMMAND, in order.
     std::vector<UINT> CommandsFrom(UINT id) const;
     // Puts text on the clipboard, or reads it.
-    static void SetClipboard(const char* text);
-    static std::string Clipboard();
     static std::string TextOf(const CWnd& wnd);
 
     CWnd parent;
