@@ -75,8 +75,9 @@ protected:
             .Press(IDOK);
         plot->HandlePlotViewValues();
         EXPECT_EQ(dialogs.Count(), 1);
-        if (dialogs.Count() == 1)
+        if (dialogs.Count() == 1) {
             EXPECT_EQ(dialogs.Shown()[0].title, "View Values");
+        }
         return view;
     }
 };
