@@ -15,12 +15,15 @@ namespace {
 
 // A write that went through may change what the chart shows: its layout and image are made
 // again when the window is next painted, which the write asks for. Nothing is drawn here, so a
-// chart fed value by value is drawn once.
+// chart fed value by value is drawn once; and only the first write after the image was last
+// brought up to date asks for the paint, so feeding a million values costs one request.
 int ShowChange(HWND chart, ChartWindowState& state, int result) {
     if (result) {
         state.engine->Touch();
-        state.imageStale = true;
-        InvalidateRect(chart, nullptr, FALSE);
+        if (!state.imageStale) {
+            state.imageStale = true;
+            InvalidateRect(chart, nullptr, FALSE);
+        }
     }
     return result;
 }
