@@ -153,6 +153,11 @@ BOOL CGridCellTimeCtrl::Edit(int row, int col, CRect rect, CPoint point, UINT id
     if (ch == VK_LBUTTON && !m_bOpening) {
         return FALSE;
     }
+    if (m_editing && m_editWnd != nullptr) {
+        // One picker per cell: a second would end the first as it took the focus, and that end
+        // would leave the cell saying it no longer edits, under the second.
+        return TRUE;
+    }
     m_editing = TRUE;
     if (m_pTime == nullptr) {
         m_pTime = std::make_unique<COleDateTime>(COleDateTime::GetCurrentTime());

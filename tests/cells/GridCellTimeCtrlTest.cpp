@@ -199,6 +199,31 @@ TEST_F(TimeCellTest, ADoubleClickOnTheArrowOrBesideItOpensOnePickerThatTheCellKn
     }
 }
 
+TEST_F(TimeCellTest, ADoubleClickBesideAnOpenPickerKeepsThatPickerAndTheCellEditing) {
+    ui.Click(Grid(), ArrowPoint());
+    CDateTimeCtrl* editor = Editor();
+    ASSERT_NE(editor, nullptr);
+    ASSERT_NE(editor->GetMonthCalCtrl(), nullptr);
+    const HWND picker = editor->GetSafeHwnd();
+    // The first click only closes the dropped calendar; the second reaches the grid on the
+    // cell's grid line, beside the picker.
+    const CRect cell = CellRect(kRow, kTimeColumn);
+    ui.DoubleClick(Grid(), CPoint(cell.right, cell.CenterPoint().y));
+    ASSERT_TRUE(::IsWindow(picker));
+    EXPECT_EQ(::GetWindow(picker, GW_HWNDNEXT), nullptr); // no second picker beside it
+    EXPECT_TRUE(Cell().IsEditing());
+    ASSERT_NE(Editor(), nullptr);
+    EXPECT_EQ(Editor()->GetSafeHwnd(), picker);
+
+    // The picker still holds the cell's time, which a clear from the application leaves to it.
+    grid.SetItemText(kRow, kTimeColumn, "");
+    ui.PressKey(VK_RETURN);
+    EXPECT_FALSE(::IsWindow(picker));
+    EXPECT_FALSE(Cell().IsEditing());
+    ASSERT_NE(Value(), nullptr);
+    EXPECT_EQ(Value()->GetDay(), kDay);
+}
+
 TEST_F(TimeCellTest, DigitsAndArrowsEditTheFieldsInTheOrderOfTheRegionalDate) {
     DoubleClickLeftEdge();
     ASSERT_NE(Editor(), nullptr);

@@ -273,6 +273,23 @@ TEST_F(SpreadSheetEditingTest, ACellRetypedWhileItsEditorIsOpenEndsTheEditFirst)
     EXPECT_EQ(sheet.GetItemText(kRow, kName), "Go");
 }
 
+TEST_F(SpreadSheetEditingTest, AListOpenedWhileTheScrollBarIsHeldClosesWhenTheBarIsLetGo) {
+    sheet.SetRowCount(4 * kRows); // rows enough for a vertical scroll bar
+    Focus(kRow, kMaterial);
+    CRect client;
+    sheet.GetClientRect(&client);
+    const CPoint downArrow(client.right + GetSystemMetrics(SM_CXVSCROLL) / 2,
+                           client.bottom - GetSystemMetrics(SM_CYVSCROLL) / 2);
+    ui.MouseDown(Sheet(), downArrow);
+    ui.Type("S");
+    ASSERT_NE(OpenEditor(), nullptr);
+    // Letting the bar go ends the scroll, and the edit with it: the list goes at once, not with
+    // whatever input comes next.
+    ui.MouseUp(Sheet(), downArrow);
+    EXPECT_EQ(OpenEditor(), nullptr);
+    EXPECT_FALSE(sheet.GetCell(kRow, kMaterial)->IsEditing());
+}
+
 TEST_F(SpreadSheetEditingTest, APastedBlockGoesThroughEachColumnsCell) {
     sheet.SetItemData(kRow, kSurveyed, 1);
     PutTextOnClipboard("C-9\t4.9\t0.6\tSlab\t3/1/2024\tno\tgone\n"

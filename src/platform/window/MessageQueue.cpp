@@ -157,8 +157,11 @@ BOOL PeekMessage(MSG* msg, HWND hwnd, UINT lo, UINT hi, UINT removeFlags) {
         return FALSE;
     const bool remove = (removeFlags & PM_REMOVE) != 0;
     Queues& q = Q();
-    bool got =
-        TakeFrom(q.posted, msg, hwnd, lo, hi, remove) || TakeInput(msg, hwnd, lo, hi, remove);
+    // Routing the mouse sends messages (a scroll bar's, a hit test) whose handlers may post:
+    // what they post is taken before the queue counts as empty.
+    bool got = TakeFrom(q.posted, msg, hwnd, lo, hi, remove) ||
+               TakeInput(msg, hwnd, lo, hi, remove) ||
+               TakeFrom(q.posted, msg, hwnd, lo, hi, remove);
     if (!got && q.quitCode && !hwnd) {
         *msg = Make(nullptr, WM_QUIT, WPARAM(*q.quitCode), 0);
         if (remove)
