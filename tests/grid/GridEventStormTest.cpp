@@ -76,14 +76,27 @@ protected:
     CPoint AnyPoint() {
         const CRect client = Client();
         // Mostly inside, sometimes past the edges, and often near a divider of the headings.
+        // Each draw is a statement of its own: the order of a call's arguments is the
+        // compiler's, and every build must play the same storm from the same seed.
         switch (Pick(4)) {
-        case 0:
-            return CPoint(Pick(client.right + 60) - 30, Pick(client.bottom + 60) - 30);
-        case 1:
-            return CPoint(kWidth * (1 + Pick(6)) + Pick(5) - 2, Pick(kHeight));
-        default:
-            return CPoint(Pick(client.right), Pick(client.bottom));
+        case 0: {
+            const CPoint point = PickPoint(client.right + 60, client.bottom + 60);
+            return CPoint(point.x - 30, point.y - 30);
         }
+        case 1: {
+            const int divider = 1 + Pick(6);
+            const CPoint near = PickPoint(5, kHeight);
+            return CPoint(kWidth * divider + near.x - 2, near.y);
+        }
+        default:
+            return PickPoint(client.right, client.bottom);
+        }
+    }
+
+    CPoint PickPoint(int width, int height) {
+        const int x = Pick(width);
+        const int y = Pick(height);
+        return CPoint(x, y);
     }
 
     std::string last;

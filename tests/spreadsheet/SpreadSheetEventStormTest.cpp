@@ -90,25 +90,43 @@ protected:
         sheet.GetClientRect(&client);
         // Mostly inside, sometimes past the edges, often near a cell's top right corner where the
         // drop arrows are, down to the grid line beside them.
+        // Each draw is a statement of its own: the order of a call's arguments is the
+        // compiler's, and every build must play the same storm from the same seed.
         switch (Pick(5)) {
-        case 0:
-            return CPoint(Pick(client.right + 60) - 30, Pick(client.bottom + 60) - 30);
-        case 1:
-            return CPoint(kColumnWidth * (1 + Pick(5)) - 1 - Pick(6),
-                          kRowHeight * (1 + Pick(8)) + Pick(6));
+        case 0: {
+            const CPoint point = PickPoint(client.right + 60, client.bottom + 60);
+            return CPoint(point.x - 30, point.y - 30);
+        }
+        case 1: {
+            const int column = 1 + Pick(5);
+            const int leftOfDivider = 1 + Pick(6);
+            const int row = 1 + Pick(8);
+            const int belowDivider = Pick(6);
+            return CPoint(kColumnWidth * column - leftOfDivider, kRowHeight * row + belowDivider);
+        }
         case 2: {
             const CCellRange shown = sheet.GetVisibleNonFixedCellRange();
-            CRect cell;
-            if (shown.IsValid() &&
-                sheet.GetCellRect(shown.minRow + Pick(shown.maxRow - shown.minRow + 1),
-                                  shown.minCol + Pick(shown.maxCol - shown.minCol + 1), &cell)) {
-                return CPoint(cell.right - Pick(3), cell.top + Pick(4));
+            if (!shown.IsValid()) {
+                return client.CenterPoint();
             }
-            return client.CenterPoint();
+            const int row = shown.minRow + Pick(shown.maxRow - shown.minRow + 1);
+            const int col = shown.minCol + Pick(shown.maxCol - shown.minCol + 1);
+            CRect cell;
+            if (!sheet.GetCellRect(row, col, &cell)) {
+                return client.CenterPoint();
+            }
+            const CPoint corner = PickPoint(3, 4);
+            return CPoint(cell.right - corner.x, cell.top + corner.y);
         }
         default:
-            return CPoint(Pick(client.right), Pick(client.bottom));
+            return PickPoint(client.right, client.bottom);
         }
+    }
+
+    CPoint PickPoint(int width, int height) {
+        const int x = Pick(width);
+        const int y = Pick(height);
+        return CPoint(x, y);
     }
 
     std::string last;
