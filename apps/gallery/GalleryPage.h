@@ -14,6 +14,8 @@ public:
     virtual ~GalleryContext() = default;
     // Records the top-level window as a picture of this page, saved as <output>/<name>.png.
     virtual void Capture(HWND window, const char* name) = 0;
+    // The same, as a display shows it: the windows above it (open menus, windows it owns) too.
+    virtual void CaptureScreen(HWND window, const char* name) = 0;
     // A line of the gallery's report: what the page holds, read back from the library.
     virtual void Print(const char* format, ...) __attribute__((format(printf, 2, 3))) = 0;
     // Where a page that writes files of its own (a chart's PNG, a data file) puts them.

@@ -32,7 +32,10 @@ class HeadlessGalleryContext : public GalleryContext {
 public:
     explicit HeadlessGalleryContext(std::filesystem::path folder) : m_folder(std::move(folder)) {}
 
-    void Capture(HWND window, const char* name) override {
+    void Capture(HWND window, const char* name) override { Save(window, name, false); }
+    void CaptureScreen(HWND window, const char* name) override { Save(window, name, true); }
+
+    void Save(HWND window, const char* name, bool withWindowsAbove) {
         if (!IsWindow(window) || !name) {
             Print("capture of \"%s\" skipped: no window", name ? name : "");
             return;
@@ -40,7 +43,9 @@ public:
         if (!IsWindowVisible(window))
             ShowWindow(window, SW_SHOWNA);
         const std::string path = OutputPath((std::string(name) + ".png").c_str());
-        if (m_driver.SavePng(window, path.c_str()))
+        const bool saved = withWindowsAbove ? m_driver.SaveScreenPng(window, path.c_str())
+                                            : m_driver.SavePng(window, path.c_str());
+        if (saved)
             std::printf("%s\n", path.c_str());
         else
             Print("capture of \"%s\" failed", name);

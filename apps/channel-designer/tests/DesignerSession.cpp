@@ -20,7 +20,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* kMenuClass = "#32768";
 constexpr int kReaderWaitMilliseconds = 10000;
 
 void WriteFile(const fs::path& path, const std::string& text) {
@@ -113,32 +112,8 @@ CPoint DesignerSession::CellCentre(int row, int col) {
 }
 
 void DesignerSession::SaveScreen(HWND window, const std::string& name) {
-    // A display would show the open menus over the window: draw them in before saving.
-    RECT windowRect;
-    GetWindowRect(window, &windowRect);
-    m_ui.Pump();
-    HDC target = GetWindowDC(window);
-    std::vector<HWND> menus;
-    for (HWND top = GetTopWindow(nullptr); top; top = GetWindow(top, GW_HWNDNEXT)) {
-        char className[16] = {};
-        GetClassName(top, className, sizeof className);
-        if (IsWindowVisible(top) && std::strcmp(className, kMenuClass) == 0)
-            menus.insert(menus.begin(), top);
-    }
-    for (HWND menu : menus) {
-        RECT r;
-        GetWindowRect(menu, &r);
-        HDC source = GetWindowDC(menu);
-        BitBlt(target, r.left - windowRect.left, r.top - windowRect.top, r.right - r.left,
-               r.bottom - r.top, source, 0, 0, SRCCOPY);
-        ReleaseDC(menu, source);
-    }
-    ReleaseDC(window, target);
     const fs::path path = ShotFolder() / (name + ".png");
-    EXPECT_TRUE(m_ui.SavePng(window, path.c_str())) << path;
-    if (!menus.empty())
-        RedrawWindow(window, nullptr, nullptr,
-                     RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+    EXPECT_TRUE(m_ui.SaveScreenPng(window, path.c_str())) << path;
 }
 
 std::string DesignerSession::ReaderArguments() {

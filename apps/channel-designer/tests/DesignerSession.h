@@ -37,7 +37,7 @@ protected:
 
     CPoint CellCentre(int row, int col);
     HWND Sheet(ReachWindow& reach) { return reach.Sheet().GetSafeHwnd(); }
-    // Saves a top-level window as <shots>/<name>.png, with the menus open over it drawn in.
+    // Saves a top-level window as <shots>/<name>.png as a display shows it, open menus and all.
     void SaveScreen(HWND window, const std::string& name);
     // What the PDF reader was started with, one argument a line; empty if it did not start.
     std::string ReaderArguments();

@@ -37,7 +37,6 @@ constexpr UINT kCmdLegendNone = 3212;
 constexpr UINT kCmdLegendTop = 3213;
 constexpr UINT kCmdLegendBottom = 3214;
 constexpr UINT kCmdExport = 3215;
-constexpr const char* kMenuClass = "#32768";
 
 void RegisterResources() {
     RegisterMenuResource(
@@ -155,34 +154,6 @@ protected:
     }
 };
 
-// What a display would show: the open menus' windows drawn over the frame, which is then
-// captured.
-void CaptureWithOpenMenus(GalleryContext& context, HWND frame, const char* name) {
-    RECT frameRect;
-    GetWindowRect(frame, &frameRect);
-    HDC target = GetWindowDC(frame);
-    std::vector<HWND> menus;
-    for (HWND top = GetTopWindow(nullptr); top; top = GetWindow(top, GW_HWNDNEXT)) {
-        char className[16] = {};
-        GetClassName(top, className, sizeof className);
-        if (IsWindowVisible(top) && std::strcmp(className, kMenuClass) == 0)
-            menus.insert(menus.begin(), top); // bottom first, so the topmost ends on top
-    }
-    for (HWND menu : menus) {
-        RECT r;
-        GetWindowRect(menu, &r);
-        HDC source = GetWindowDC(menu);
-        BitBlt(target, r.left - frameRect.left, r.top - frameRect.top, r.right - r.left,
-               r.bottom - r.top, source, 0, 0, SRCCOPY);
-        ReleaseDC(menu, source);
-    }
-    ReleaseDC(frame, target);
-    context.Print("menus open over the frame: %d", int(menus.size()));
-    context.Capture(frame, name);
-    // The menus' pixels go again from the frame, which a display goes on showing.
-    RedrawWindow(frame, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
-}
-
 std::string TitleOf(CWnd& wnd) {
     CString title;
     wnd.GetWindowText(title);
@@ -266,7 +237,7 @@ void BuildMdiFramePage(GalleryContext& context) {
         driver.MouseMove(shown.window, MenuResponder::ItemPoint(shown.window, menu, 3));
         driver.MouseMove(shown.window,
                          MenuResponder::ItemPoint(shown.window, GetSubMenu(menu, 3), 2));
-        CaptureWithOpenMenus(context, frame, "32-mdi-frame");
+        context.CaptureScreen(frame, "32-mdi-frame");
         EndMenu();
     });
     CPoint at(260, 150);

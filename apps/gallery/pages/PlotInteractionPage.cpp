@@ -133,29 +133,6 @@ void ReportPoint(GalleryContext& context, HWND window, EPlot& plot, const char* 
     context.Print("at %s %ld %ld", name, long(p.x - windowRect.left), long(p.y - windowRect.top));
 }
 
-// What a display would show: the windows above the frame (open menus, the plot windows it
-// owns) drawn over it from the bottom up, and then the frame captured.
-void CaptureWithWindowsAbove(GalleryContext& context, HWND frame, const char* name) {
-    std::vector<HWND> above;
-    for (HWND top = GetTopWindow(nullptr); top && top != frame; top = GetWindow(top, GW_HWNDNEXT))
-        if (IsWindowVisible(top))
-            above.insert(above.begin(), top);
-    RECT frameRect;
-    GetWindowRect(frame, &frameRect);
-    HDC target = GetWindowDC(frame);
-    for (HWND top : above) {
-        RECT r;
-        GetWindowRect(top, &r);
-        HDC source = GetWindowDC(top);
-        BitBlt(target, r.left - frameRect.left, r.top - frameRect.top, r.right - r.left,
-               r.bottom - r.top, source, 0, 0, SRCCOPY);
-        ReleaseDC(top, source);
-    }
-    ReleaseDC(frame, target);
-    context.Capture(frame, name);
-    RedrawWindow(frame, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
-}
-
 void BuildPlotInteractionPage(GalleryContext& context) {
     static InteractionFrame frame;
     frame.Create(nullptr, "Flume bench - plot interaction", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
@@ -185,7 +162,7 @@ void BuildPlotInteractionPage(GalleryContext& context) {
         GetWindowRect(frame.m_hWnd, &frameRect);
         context.Print("at view-values %ld %ld", long(item.x - frameRect.left),
                       long(item.y - frameRect.top));
-        CaptureWithWindowsAbove(context, frame.m_hWnd, "61-plot-interaction-menu");
+        context.CaptureScreen(frame.m_hWnd, "61-plot-interaction-menu");
         EndMenu();
     });
     driver.RightClick(chart, ChartPixel(*plot, 850, 103.5));
@@ -246,7 +223,7 @@ void BuildPlotInteractionPage(GalleryContext& context) {
                   GetActiveWindow() == frame.m_hWnd ? "yes" : "no",
                   GetTopWindow(nullptr) == ownedWindow ? "yes" : "no");
     driver.Pump();
-    CaptureWithWindowsAbove(context, frame.m_hWnd, "61-plot-interaction-owned");
+    context.CaptureScreen(frame.m_hWnd, "61-plot-interaction-owned");
     ReportPoint(context, ownedWindow, *owned, "own-menu-point", 850, 103.5);
     ReportPoint(context, ownedWindow, *owned, "own-water-point", 200, 102.4 - 0.3 * 2);
     ReportPoint(context, ownedWindow, *owned, "own-water-target", 200, 103.5);

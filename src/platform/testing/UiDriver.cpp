@@ -174,6 +174,22 @@ COLORREF UiDriver::Pixel(HWND window, POINT client) {
 }
 
 bool UiDriver::SavePng(HWND window, const char* path) {
+    return SaveLayers(window, {window}, path);
+}
+
+bool UiDriver::SaveScreenPng(HWND window, const char* path) {
+    // Top-level windows run from the top of the z-order down: those met before the window's
+    // own top-level window lie above it, and are drawn after it, the lowest first.
+    const HWND root = GetAncestor(window, GA_ROOT);
+    std::vector<HWND> layers{window};
+    for (HWND top = GetTopWindow(nullptr); top && top != root; top = GetWindow(top, GW_HWNDNEXT)) {
+        if (IsWindowVisible(top))
+            layers.insert(layers.begin() + 1, top);
+    }
+    return SaveLayers(window, layers, path);
+}
+
+bool UiDriver::SaveLayers(HWND window, const std::vector<HWND>& layers, const char* path) {
     Pump();
     RECT rect;
     if (!path || !GetWindowRect(window, &rect))
@@ -184,9 +200,14 @@ bool UiDriver::SavePng(HWND window, const char* path) {
         return false;
     Surface picture(width, height);
     HDC target = CreateSurfaceDC(&picture, POINT{0, 0}, RECT{0, 0, width, height});
-    HDC source = GetWindowDC(window);
-    BitBlt(target, 0, 0, width, height, source, 0, 0, SRCCOPY);
-    ReleaseDC(window, source);
+    for (HWND layer : layers) {
+        RECT bounds;
+        GetWindowRect(layer, &bounds);
+        HDC source = GetWindowDC(layer);
+        BitBlt(target, bounds.left - rect.left, bounds.top - rect.top, bounds.right - bounds.left,
+               bounds.bottom - bounds.top, source, 0, 0, SRCCOPY);
+        ReleaseDC(layer, source);
+    }
     DeleteDC(target);
     return picture.SavePng(path);
 }

@@ -9,6 +9,8 @@
 #include "platform/base/Messages.h"
 #include "platform/base/Rect.h"
 
+#include <vector>
+
 class ORVA_API UiDriver {
 public:
     // The mouse.
@@ -41,8 +43,13 @@ public:
     COLORREF Pixel(HWND window, POINT client);
     // Saves the whole window (frame included) as a PNG file.
     bool SavePng(HWND window, const char* path);
+    // Saves the window as a display shows it: with the visible top-level windows above it (open
+    // menus, dropped lists, the windows it owns) drawn over it. The window is left as it was.
+    bool SaveScreenPng(HWND window, const char* path);
 
 private:
+    // Saves `window` with each of `layers`, from the bottom up, drawn where it lies over it.
+    bool SaveLayers(HWND window, const std::vector<HWND>& layers, const char* path);
     void Button(HWND window, POINT client, UINT button, bool down, UINT keys, int clickCount);
     CPoint ToScreen(HWND window, POINT client) const;
 
