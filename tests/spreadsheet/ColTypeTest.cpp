@@ -1,53 +1,11 @@
-// The column type records: their defaults, the order of their constructor arguments, and the
-// copies they keep of what they are given.
+// The column type records: the order of their constructor arguments, and the copies they keep
+// of what they are given.
 
 #include "spreadsheet/ColType.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-TEST(ColTypeTest, DefaultRecordsCarryTheirKindAndTheDocumentedValues) {
-    const EColType none;
-    EXPECT_EQ(none.column, -1);
-    EXPECT_EQ(none.kind, EColType::KIND_NONE);
-    const EColType removal(3, EColType::KIND_NONE);
-    EXPECT_EQ(removal.column, 3);
-    EXPECT_EQ(removal.kind, EColType::KIND_NONE);
-
-    const EColTypeTIM time;
-    EXPECT_EQ(time.kind, EColTypeTIM::KIND);
-    EXPECT_EQ(time.text, "^");
-    EXPECT_TRUE(time.showDropArrow && time.showTime && time.noSeconds);
-
-    const EColTypeFLT number;
-    EXPECT_EQ(number.column, -1);
-    EXPECT_EQ(number.precision, -1);
-    EXPECT_EQ(number.maxDecimals, -1);
-    EXPECT_FALSE(number.singlePrecision);
-
-    const EColTypeCBX combo;
-    EXPECT_EQ(combo.options.GetSize(), 0);
-    EXPECT_TRUE(combo.listOnly && combo.showDropArrow);
-
-    EXPECT_EQ(EColTypeSYM().size, 1);
-    EXPECT_EQ(EColTypeLIN().width, 1);
-    EXPECT_EQ(EColTypePNT().size, 1);
-    EXPECT_EQ(EColTypePAT().pattern, 0);
-    EXPECT_EQ(EColTypeFONT().font, 0);
-    EXPECT_EQ(EColTypeTOG().checked, false);
-    EXPECT_EQ(EColTypeBTN().text, "");
-    EXPECT_EQ(EColTypeFXY().text, "");
-
-    const int kinds[] = {EColTypeBTN().kind,  EColTypeTOG().kind,  EColTypeCBX().kind,
-                         EColTypeTIM().kind,  EColTypeCOL().kind,  EColTypeINT().kind,
-                         EColTypeFLT().kind,  EColTypeCOLR().kind, EColTypePAT().kind,
-                         EColTypeSYM().kind,  EColTypeLIN().kind,  EColTypePNT().kind,
-                         EColTypeFONT().kind, EColTypeFXY().kind};
-    for (int code = 0; code < int(std::size(kinds)); code++) {
-        EXPECT_EQ(kinds[code], code); // the application sees these codes
-    }
-}
 
 TEST(ColTypeTest, ArgumentsLandInTheirFieldsWhereTheOrdersDiffer) {
     const EColTypeFLT number(4, 3, true, 5);
