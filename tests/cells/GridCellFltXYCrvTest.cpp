@@ -99,19 +99,6 @@ protected:
     }
 };
 
-TEST_F(GridCellFltXYCrvTest, ANewCellShowsTheConstantZeroInBlackAndKeepsTheDefaultChoices) {
-    EXPECT_EQ(Text(kRow), "0.0");
-    EXPECT_EQ(Cell(kRow)->GetComboSelection(), CGridCellFltXYCrv::CHOICE_CONSTANT);
-    EXPECT_EQ(Constant(kRow), 0.0);
-    EXPECT_EQ(Cell(kRow)->GetTextClr(), kBlack);
-    CStringArray options;
-    Cell(kRow)->GetOptions(options);
-    ASSERT_EQ(options.GetSize(), 3);
-    EXPECT_EQ(options[0], kConstantWord);
-    EXPECT_EQ(options[1], kTransientWord);
-    EXPECT_EQ(options[2], kDataSetWord);
-}
-
 TEST_F(GridCellFltXYCrvTest, ANumberTypedInPlaceIsStoredAndShownInTheCellsFormat) {
     ui.Click(Grid(), CellCentre(kRow, kCurveColumn));
     ui.Type("2.50");

@@ -92,22 +92,6 @@ TEST_F(SpreadSheetPlaceholderTest,
     }
 }
 
-TEST_F(SpreadSheetPlaceholderTest, HiddenAndShownAgainTheControlKeepsItsContent) {
-    ASSERT_NE(Placeholder(100), nullptr);
-    CSpreadSheetORVA sheet;
-    ASSERT_TRUE(sheet.SubclassDlgItem(kPlaceholderId, &host));
-    sheet.SetColumnCount(3);
-    sheet.SetRowCount(3);
-    sheet.SetItemText(1, 1, "kept");
-    host.ShowWindow(SW_SHOW);
-    sheet.MapItem(false);
-    EXPECT_FALSE(sheet.IsWindowVisible());
-    EXPECT_EQ(sheet.GetItemText(1, 1), "kept");
-    sheet.MapItem(true);
-    EXPECT_TRUE(sheet.IsWindowVisible());
-    EXPECT_EQ(sheet.GetItemText(1, 1), "kept");
-}
-
 TEST_F(SpreadSheetPlaceholderTest, ScrollBarsFollowSizesChangedWithoutThemOnRequest) {
     ASSERT_NE(Placeholder(100), nullptr);
     CSpreadSheetORVA sheet;
